@@ -1,0 +1,114 @@
+#include "instrument.h"
+
+#include "colours/random_active.h"
+#include "mosaic/cells.h"
+#include "mosaic/painting.h"
+#include "mosaic/slots.h"
+#include "mosaic/tools.h"
+#include "panel/go_stop.h"
+#include "panel/speeds.h"
+#include "panel/start_up.h"
+#include "shift/shift.h"
+#include "transform/transform.h"
+
+namespace caleidoscopio {
+
+namespace {
+
+/// The handler of one event of a control, for its elements from `first` to `last`. What no row
+/// names takes no press.
+struct HandlerRow {
+  Control& control;
+  int first, last;
+  Event event;
+  Control::Handler handler;
+};
+
+/// Hands a handler the part of the store that it knows.
+template <class Part>
+Control::Handler on(Store& s, void (*handler)(Part&, int)) {
+  return [&part = static_cast<Part&>(s), handler](int index) { handler(part, index); };
+}
+template <class Part>
+Control::Handler on(Store& s, void (*handler)(Part&)) {
+  return [&part = static_cast<Part&>(s), handler](int) { handler(part); };
+}
+
+/// Timers A and B remember a speed for each of their modes.
+void rememberSpeed(Store& s, int t) {
+  if (t == 1) rememberShiftInterval(s);
+  if (t == 2) rememberTransformInterval(s);
+}
+
+void tieHandlers(Store& s) {
+  using enum Event;
+  const HandlerRow rows[] = {
+      // panel
+      {s.form, 0, 0, Click, on(s, Form_Click)},
+      {s.form, 0, 0, KeyDown, on(s, Form_KeyDown)},
+      {s.cmdGoTimer, 0, 0, Click, on(s, cmdGoTimer_Click)},
+      {s.cmdOnOff, 0, 5, Click, on(s, cmdOnOff_Click)},
+      {s.lblHide, 0, 0, Click, on(s, lblHide_Click)},
+      {s.lblPiùTmr, 1, 3, MouseDown, on(s, lblPiùTmr_MouseDown)},
+      {s.lblPiùTmr, 1, 3, MouseUp,
+       [&s](int t) {
+         lblPiùTmr_MouseUp(s, t);
+         rememberSpeed(s, t);
+       }},
+      {s.lblMenoTmr, 1, 3, MouseDown, on(s, lblMenoTmr_MouseDown)},
+      {s.lblMenoTmr, 1, 3, MouseUp,
+       [&s](int t) {
+         lblMenoTmr_MouseUp(s, t);
+         rememberSpeed(s, t);
+       }},
+      {s.TmrVeloPiù, 0, 0, Tick, on(s, TmrVeloPiù_Timer)},
+      {s.TmrVeloMeno, 0, 0, Tick, on(s, TmrVeloMeno_Timer)},
+      {s.TmrScorriPiù, 0, 0, Tick, on(s, TmrScorriPiù_Timer)},
+      {s.TmrScorriMeno, 0, 0, Tick, on(s, TmrScorriMeno_Timer)},
+      // mosaic
+      {s.lblMiro, 1, 441, Click, on(s, lblMiro_Click)},
+      {s.lblValore, 0, 6, Click, on(s, lblValore_Click)},
+      {s.lblColore, 1, 104, Click, on(s, lblColore_Click)},
+      {s.lblPiù, 0, 6, MouseDown, on(s, lblPiù_MouseDown)},
+      {s.lblPiù, 0, 6, MouseUp, on(s, lblPiù_MouseUp)},
+      {s.lblPiù, 0, 6, Click, on(s, lblPiù_Click)},
+      {s.TmrColori, 0, 0, Tick, on(s, TmrColori_Timer)},
+      {s.lblTotali, 0, 24, Click, on(s, lblTotali_Click)},
+      {s.lblSfondo, 0, 6, Click, on(s, lblSfondo_Click)},
+      {s.lblSelSfondo, 0, 2, Click, on(s, lblSelSfondo_Click)},
+      {s.lblComCol, 0, 8, MouseDown, on(s, lblComCol_MouseDown)},
+      {s.lblComCol, 0, 8, MouseUp, on(s, lblComCol_MouseUp)},
+      {s.lblBack, 0, 0, MouseDown, on(s, lblBack_MouseDown)},
+      {s.lblBack, 0, 0, MouseUp, on(s, lblBack_MouseUp)},
+      {s.Label3, 0, 0, Click, on(s, Label3_Click)},
+      {s.cmdDisegnaRettangoli2, 0, 0, Click, on(s, cmdDisegnaRettangoli2_Click)},
+      // shift
+      {s.lblSposta, 1, 24, Click, on(s, lblSposta_Click)},
+      {s.lblOraria, 0, 0, MouseDown, on(s, lblOraria_MouseDown)},
+      {s.lblOraria, 0, 0, MouseUp, on(s, lblOraria_MouseUp)},
+      {s.lblSyncro, 0, 0, Click, on(s, lblSyncro_Click)},
+      {s.TmrGoA, 0, 0, Tick, on(s, TmrGoA_Timer)},
+      // colours
+      {s.Command1, 0, 0, Click, on(s, ColoreCasualeAttivo)},
+  };
+  for (const HandlerRow& row : rows) row.control.tie(row.event, row.first, row.last, row.handler);
+}
+
+}  // namespace
+
+Instrument::Instrument(Platform& platform) {
+  s.platform = &platform;
+  for (const Group* group :
+       {&s.windowGroup, &s.fieldGroup, &s.slotGroup, &s.toolGroup, &s.panelGroup, &s.shiftGroup,
+        &s.transformGroup, &s.frameGroup, &s.breakGroup, &s.colourGroup, &s.sequencerGroup,
+        &s.memoryGroup, &s.endGroup, &s.timerGroup})
+    s.controls.add(*group);
+  tieHandlers(s);
+  placeControls(s);
+}
+
+void Instrument::start() {
+  Form_Load(s);
+}
+
+}  // namespace caleidoscopio

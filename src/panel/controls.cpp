@@ -1,0 +1,63 @@
+#include "panel/controls.h"
+
+#include <cassert>
+#include <utility>
+
+#include "panel/end_run.h"
+
+namespace caleidoscopio {
+
+Control::Control(Group& group, std::string_view name, Kind kind, int first, int last, bool single,
+                 void* elements, std::size_t stride)
+    : name_(name),
+      kind_(kind),
+      first_(first),
+      last_(last),
+      single_(single),
+      elements_(elements),
+      stride_(stride) {
+  group.add(*this);
+}
+
+std::string Control::nameOf(int index) const {
+  std::string text(name_);
+  if (!single_) text += "(" + std::to_string(index) + ")";
+  return text;
+}
+
+void* Control::element(int index) const {
+  if (!contains(index)) outside(index);
+  return static_cast<char*>(elements_) + static_cast<std::size_t>(index - first_) * stride_;
+}
+
+int Control::indexOf(const void* address) const {
+  const auto* at = static_cast<const char*>(address);
+  const auto* begin = static_cast<const char*>(elements_);
+  const auto count = static_cast<std::size_t>(last_ - first_ + 1);
+  if (std::less<>()(at, begin) || !std::less<>()(at, begin + count * stride_)) return -1;
+  return first_ + static_cast<int>(static_cast<std::size_t>(at - begin) / stride_);
+}
+
+void Control::tie(Event event, int first, int last, Handler handler) {
+  assert(contains(first) && contains(last));
+  Tied& tied = tied_[static_cast<std::size_t>(event)];
+  assert(!tied.run && "one event of a control has one handler");
+  tied = {first, last, std::move(handler)};
+}
+
+bool Control::handles(Event event, int index) const {
+  const Tied& tied = tied_[static_cast<std::size_t>(event)];
+  return tied.run && tied.first <= index && index <= tied.last;
+}
+
+void Control::raise(Event event, int index, int argument) const {
+  if (!contains(index)) outside(index);
+  if (handles(event, index)) tied_[static_cast<std::size_t>(event)].run(argument);
+}
+
+void Control::outside(int index) const {
+  endRun(std::string(name_) + "(" + std::to_string(index) + "): no such element; expected " +
+         std::to_string(first_) + " to " + std::to_string(last_));
+}
+
+}  // namespace caleidoscopio

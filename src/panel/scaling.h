@@ -1,0 +1,31 @@
+#pragma once
+
+#include "panel/panel_controls.h"
+
+namespace caleidoscopio {
+
+/// The size for which the panels are drawn, in twips.
+inline constexpr ScreenSize designSize{15360, 11520};
+
+/// How the drawing is fitted to a screen.
+struct ScreenFit {
+  double offset = 0;  ///< added to what stands on the form, twips
+  double width = 1;   ///< ratio of Left and Width
+  double height = 1;  ///< ratio of Top and Height
+  double font = 1;    ///< ratio of FontSize
+};
+
+/// The wide screen of 20490 by 11520 keeps the drawing's size and centres it; any other stretches
+/// it both ways. Letters shrink more than controls on every screen but one as high as the
+/// drawing: meant so.
+ScreenFit fitTo(ScreenSize screen);
+
+/// Where a control that stands `designLeft` from the form's left edge comes to stand.
+inline Twips placedLeft(const ScreenFit& fit, double designLeft) {
+  return {fit.width != 1 ? designLeft * fit.width : fit.offset + designLeft};
+}
+
+/// Fits every placed control to the screen, once. On a screen of the design's size nothing moves.
+void scaleToScreen(PanelControls& s);
+
+}  // namespace caleidoscopio

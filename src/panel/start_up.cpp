@@ -1,0 +1,47 @@
+#include "panel/start_up.h"
+
+#include <array>
+#include <cstdio>
+
+#include "memories/memory_files.h"
+#include "mosaic/index_map.h"
+#include "mosaic/tools.h"
+#include "panel/go_stop.h"
+#include "panel/scaling.h"
+
+namespace caleidoscopio {
+
+namespace {
+
+std::string creditLine(int year) {
+  std::array<char, 16> digits{};
+  std::snprintf(digits.data(), digits.size(), "%04d", year);
+  return std::string("Caleidoscopio elettronico programmabile - ") + digits.data();
+}
+
+}  // namespace
+
+void Form_Load(RunControls& s) {
+  const WallTime time = s.platform->clock.now();
+  s.platform->generator.seed(time);
+  s.FraMemoria.Left = {105};
+  s.FraMemoria.Top = {8505};
+  s.lblDir.Caption = s.platform->files.root();
+  s.lblScritteVarie[9].Caption = creditLine(time.year);
+  CaricaDefault(s);
+  CaricaNomi(s);
+  s.lblNomefile.Caption = "Default";
+  s.lblSelez.Caption = "Def";
+  for (int i = 1; i <= cellCount; ++i) s.lblMiro2[i].BackColor = s.lblMiro[i].BackColor;
+  for (int i = 1; i <= 12; ++i) {
+    s.FraTransf[i].Left = {105};
+    s.FraTransf[i].Top = {3150};
+  }
+  // The panel is built wider than it shows; what lies beyond is cut off.
+  s.FraPannello[0].Width = {2255};
+  scaleToScreen(s);
+  showContour(s);
+  cmdGoTimer_Click(s);
+}
+
+}  // namespace caleidoscopio
