@@ -53,30 +53,18 @@ struct PanelControls {
   Labels<1, 3> lblPiùTmr{panelGroup, "lblPiùTmr", Caption{"+"}, Back{colours::idle}};
   Labels<1, 3> lblMenoTmr{panelGroup, "lblMenoTmr", Caption{"-"}, Back{colours::idle}};
   OneLabel lblIndexTmr{panelGroup, "lblIndexTmr", Caption{"2"}};
-  /// 0 to 6: headings of the panels' sections; 7 to 9: above and below the field; 10, 11 and 14
-  /// to 18: headings of the right panel; 12, 13 and 19: the columns of the sequencer's table.
-  Labels<0, 19> lblScritteVarie{panelGroup, "lblScritteVarie",
-                                Captions{0,
-                                         {"A -Timer Shift",
-                                          "B - Timer Transform",
-                                          "C - Timer Frame",
-                                          "D - Timer Break",
-                                          "E - Timer Sequencer",
-                                          "Gamma Colori",
-                                          "Strumenti disegno",
-                                          "Caleidoscopio",
-                                          "Un tasto, o un clic fuori dal campo, mostra i pannelli",
-                                          "",
-                                          "Palette",
-                                          "Random Colori",
-                                          "A",
-                                          "B",
-                                          "F - Timer Colori",
-                                          "Memorie",
-                                          "Matrice RW",
-                                          "",
-                                          "",
-                                          "C"}}};
+  /// Fixed words. 7 to 9 stand above and below the field, 12, 13 and 19 head the columns of the
+  /// sequencer's table; all others head a section of the panels or name a value.
+  Labels<0, 49> lblScritteVarie{
+      panelGroup, "lblScritteVarie",
+      Captions{0, {"A -Timer Shift", "B - Timer Transform", "C - Timer Frame", "D - Timer Break",
+                   "E - Timer Sequencer", "Gamma Colori", "Strumenti disegno", "Caleidoscopio",
+                   "Un tasto, o un clic fuori dal campo, mostra i pannelli", "", "Palette",
+                   "Random Colori", "A", "B", "F - Timer Colori", "Memorie", "Matrice RW", "m:",
+                   "+R:", "C"}},
+      Captions{20, {"Rett.", "Croce", "Corn.", "Campo", "Colori", "Creazione:", "Angolo", "Misura",
+                    "Lunghezze", "Colori", "Nessuna opzione", "Raro", "Frequente", "Cella",
+                    "Numero Scambi:", "Croce", "Corn.", "Ripresa", "Passo", "+ s", "Colori"}}};
   OneLabel lblDir{panelGroup, "lblDir"};
 
   // Timers due at the same moment fire in the order in which they stand here.

@@ -1,0 +1,199 @@
+#include "desktop/field_widget.h"
+
+#include <QHelpEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QToolTip>
+#include <algorithm>
+
+#include "desktop/looks.h"
+#include "desktop/tool_tips.h"
+
+namespace caleidoscopio {
+
+FieldWidget::FieldWidget(Driver& driver, Hand& hand, QWidget* parent)
+    : QWidget(parent), driver_(driver), hand_(hand) {
+  setObjectName(QStringLiteral("form"));
+  setAttribute(Qt::WA_OpaquePaintEvent);
+  setAttribute(Qt::WA_NoMousePropagation);
+  setMouseTracking(true);
+  setAccessibleName(toolTipOf({&driver.store().form, 0}));
+}
+
+void FieldWidget::measure() {
+  if (ratio_ == devicePixelRatioF()) return;
+  ratio_ = devicePixelRatioF();
+  const Store& s = driver_.store();
+  const auto edge = [this](Twips at) { return qRound(at.value / twipsToPixel * ratio_); };
+  for (int k = 0; k < side; ++k) {
+    const auto at = static_cast<std::size_t>(k);
+    across_[at] = edge(s.lblMiro[indexAt({0, k})].Left);
+    down_[at] = edge(s.lblMiro[indexAt({k, 0})].Top);
+  }
+  const Label& last = s.lblMiro[indexAt({side - 1, side - 1})];
+  across_.back() = edge(last.Left + last.Width);
+  down_.back() = edge(last.Top + last.Height);
+}
+
+QRect FieldWidget::deviceBox(int row, int column) const {
+  const auto r = static_cast<std::size_t>(row);
+  const auto c = static_cast<std::size_t>(column);
+  return {QPoint(across_[c], down_[r]), QPoint(across_[c + 1] - 1, down_[r + 1] - 1)};
+}
+
+QRect FieldWidget::deviceField() const {
+  return {QPoint(across_.front(), down_.front()), QPoint(across_.back() - 1, down_.back() - 1)};
+}
+
+QRect FieldWidget::toLogical(const QRect& device) const {
+  return QRectF(device.x() / ratio_, device.y() / ratio_, device.width() / ratio_,
+                device.height() / ratio_)
+      .toAlignedRect();
+}
+
+QRect FieldWidget::boxOf(int cell) const {
+  const Place at = placeOf(cell);
+  return toLogical(deviceBox(at.row, at.column));
+}
+
+int FieldWidget::cellAt(const QPoint& point) const {
+  const auto find = [](const auto& edges, double at) {
+    const auto next = std::upper_bound(edges.begin(), edges.end(), at);
+    if (next == edges.begin() || next == edges.end()) return -1;
+    return static_cast<int>(next - edges.begin()) - 1;
+  };
+  // The middle of the pixel pointed at, on the screen's own pixels.
+  const int column = find(across_, (point.x() + 0.5) * ratio_);
+  const int row = find(down_, (point.y() + 0.5) * ratio_);
+  return row < 0 || column < 0 ? 0 : indexAt({row, column});
+}
+
+void FieldWidget::mirror() {
+  measure();
+  const Store& s = driver_.store();
+  const Surroundings now{s.form.BackColor, s.ShpContour.BorderColor, s.ShpContour.BorderWidth,
+                         s.ShpContour.Visible, s.ShpRettangolo.Visible};
+  if (!(now == surroundings_)) {
+    surroundings_ = now;
+    update();
+  }
+  for (int row = 0; row < side; ++row) {
+    QRect run;  // neighbours in a row are asked for together
+    for (int column = 0; column < side; ++column) {
+      const int i = indexAt({row, column});
+      const Label& cell = s.lblMiro[i];
+      Shown& shown = shown_[static_cast<std::size_t>(i)];
+      if (shown.back != cell.BackColor || shown.fore != cell.ForeColor ||
+          shown.border != cell.BorderStyle || shown.caption != cell.Caption) {
+        shown = {cell.Caption, cell.BackColor, cell.ForeColor, cell.BorderStyle};
+        run |= deviceBox(row, column);
+      } else if (!run.isNull()) {
+        update(toLogical(run));
+        run = {};
+      }
+    }
+    if (!run.isNull()) update(toLogical(run));
+  }
+}
+
+void FieldWidget::paintContour(QPainter& painter) const {
+  if (!surroundings_.contourShown || surroundings_.contourWidth <= 0) return;
+  const int width = qRound(surroundings_.contourWidth * ratio_);
+  painter.fillRect(deviceField().adjusted(-width, -width, width, width),
+                   toScreen(surroundings_.contour));
+}
+
+void FieldWidget::paintCell(QPainter& painter, int row, int column) {
+  const Shown& cell = shown_[static_cast<std::size_t>(indexAt({row, column}))];
+  const QRect box = deviceBox(row, column);
+  ++paintedCells_;
+  painter.fillRect(box, toScreen(cell.back));
+  if (cell.border != 0) {
+    // The line belongs to the cell and its neighbour alike: each draws its top and left one, and
+    // the last ones close the field.
+    const int width = std::max(1, qRound(ratio_));
+    const QColor line(Qt::black);
+    painter.fillRect(box.left(), box.top(), box.width(), width, line);
+    painter.fillRect(box.left(), box.top(), width, box.height(), line);
+    if (column == side - 1)
+      painter.fillRect(box.right() - width + 1, box.top(), width, box.height(), line);
+    if (row == side - 1)
+      painter.fillRect(box.left(), box.bottom() - width + 1, box.width(), width, line);
+  }
+  if (cell.caption.empty()) return;
+  painter.setPen(toScreen(cell.fore));
+  painter.drawText(box, Qt::AlignCenter, QString::fromStdString(cell.caption));
+}
+
+void FieldWidget::paintQuadrant(QPainter& painter) const {
+  if (!surroundings_.quadrantShown) return;
+  const Shape& shape = driver_.store().ShpRettangolo;
+  const auto device = [this](Twips at) { return qRound(at.value / twipsToPixel * ratio_); };
+  const QRect box(QPoint(device(shape.Left), device(shape.Top)),
+                  QPoint(device(shape.Left + shape.Width), device(shape.Top + shape.Height)));
+  // Black and white dashes show on every ground.
+  QPen pen(Qt::black, shape.BorderWidth * ratio_);
+  painter.setPen(pen);
+  painter.drawRect(box);
+  pen.setColor(Qt::white);
+  pen.setStyle(Qt::DashLine);
+  painter.setPen(pen);
+  painter.drawRect(box);
+}
+
+void FieldWidget::paintEvent(QPaintEvent* event) {
+  measure();
+  QPainter painter(this);
+  painter.scale(1 / ratio_, 1 / ratio_);
+  QFont digits = lettersOf({driver_.store().lblMiro[1].FontSize.value * ratio_}, true);
+  painter.setFont(digits);
+  const QRect field = deviceField();
+  for (const QRect& part : event->region()) {
+    const QRect device(
+        QPoint(qFloor(part.left() * ratio_), qFloor(part.top() * ratio_)),
+        QPoint(qCeil((part.right() + 1) * ratio_) - 1, qCeil((part.bottom() + 1) * ratio_) - 1));
+    painter.setClipRect(device);
+    if (!field.contains(device)) {
+      painter.fillRect(device, toScreen(surroundings_.ground));
+      paintContour(painter);
+    }
+    for (int row = 0; row < side; ++row) {
+      if (!deviceBox(row, 0).united(deviceBox(row, side - 1)).intersects(device)) continue;
+      for (int column = 0; column < side; ++column)
+        if (deviceBox(row, column).intersects(device)) paintCell(painter, row, column);
+    }
+    paintQuadrant(painter);
+  }
+}
+
+Element FieldWidget::elementAt(const QPoint& point) const {
+  Store& s = driver_.store();
+  const int cell = cellAt(point);
+  return cell > 0 ? Element{&s.lblMiro, cell} : Element{&s.form, 0};
+}
+
+void FieldWidget::mousePressEvent(QMouseEvent* event) {
+  if (event->button() == Qt::LeftButton) hand_.press(elementAt(event->pos()), *this);
+}
+
+void FieldWidget::mouseDoubleClickEvent(QMouseEvent* event) {
+  mousePressEvent(event);
+}
+
+void FieldWidget::mouseReleaseEvent(QMouseEvent* event) {
+  if (event->button() == Qt::LeftButton)
+    hand_.release(rect().contains(event->pos()) && hand_.holds(elementAt(event->pos())));
+}
+
+bool FieldWidget::event(QEvent* event) {
+  if (event->type() != QEvent::ToolTip) return QWidget::event(event);
+  const auto& help = static_cast<const QHelpEvent&>(*event);
+  // On the cells a tip would be in the way of painting.
+  if (cellAt(help.pos()) == 0)
+    QToolTip::showText(help.globalPos(), toolTipOf({&driver_.store().form, 0}), this);
+  else
+    QToolTip::hideText();
+  return true;
+}
+
+}  // namespace caleidoscopio

@@ -1,0 +1,147 @@
+#include <gtest/gtest.h>
+
+#include <QAccessible>
+#include <QApplication>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTimer>
+
+#include "desktop/tool_tips.h"
+#include "desktop/window_rig.h"
+
+namespace caleidoscopio::test {
+
+TEST(Window, AnyKeyStopsAHiddenRunAndASecondDoesNothing) {
+  for (const Qt::Key key : {Qt::Key_A, Qt::Key_Shift, Qt::Key_Tab, Qt::Key_Control}) {
+    WindowRig rig;
+    rig.click("cmdGoTimer");
+    rig.s().lblHide.BackColor = colours::selected;
+    rig.click("cmdGoTimer");
+    ASSERT_FALSE(rig.widget("FraPannello(0)").isVisible());
+    QTest::keyClick(&*rig.window, key);
+    EXPECT_TRUE(rig.widget("FraPannello(0)").isVisible());
+    EXPECT_EQ(rig.s().cmdGoTimer.BackColor, colours::idle);
+    QTest::keyClick(&*rig.window, key);
+    EXPECT_EQ(rig.s().cmdGoTimer.BackColor, colours::idle);
+  }
+}
+
+TEST(Window, TheFieldMovesByTheRealClock) {
+  WindowRig rig(1024, 768, [](Store& s) {
+    s.cmdOnOff[1].BackColor = colours::running;
+    s.lblVelo[1].Caption = "20";
+    s.lblMiro[1].BackColor = {0x0000FF};
+  });
+  const long long before = rig.field().paintedCells();
+  const std::uint64_t time = rig.s().time.now();
+  QTest::qWait(200);
+  EXPECT_GE(rig.s().time.now(), time + 150);
+  EXPECT_GT(rig.field().paintedCells(), before);
+}
+
+TEST(Window, ATickThatChangesNothingPaintsNoCell) {
+  WindowRig rig;
+  rig.click("cmdGoTimer");
+  QTest::qWait(50);
+  const long long before = rig.field().paintedCells();
+  rig.driver->raise(rig.s().TmrGoA, Event::Tick, 0);  // a field of one colour
+  QTest::qWait(50);
+  EXPECT_EQ(rig.field().paintedCells(), before);
+  rig.clickCell(1);
+  QTest::qWait(50);
+  // The four cells of a quartet stand apart; each is painted alone.
+  EXPECT_EQ(rig.field().paintedCells(), before + 4);
+}
+
+class Sizes : public testing::TestWithParam<std::pair<int, int>> {};
+
+TEST_P(Sizes, EveryCaptionIsShownWhole) {
+  const auto [width, height] = GetParam();
+  WindowRig rig(width, height);
+  for (const ControlWidget* control : rig.window->findChildren<ControlWidget*>())
+    EXPECT_TRUE(control->showsWholeCaption()) << control->objectName().toStdString();
+}
+
+TEST_P(Sizes, TheFieldsCellsMeetWithoutAGap) {
+  const auto [width, height] = GetParam();
+  WindowRig rig(width, height, [](Store& s) {
+    for (int i = 1; i <= cellCount; ++i) s.lblMiro[i].BackColor = {0x00FF00};
+    s.form.BackColor = {0x0000FF};
+  });
+  const QImage picture = rig.window->grab().toImage();
+  const QPoint from = rig.field().boxOf(437).topLeft() + QPoint(1, 1);
+  const QPoint to = rig.field().boxOf(439).bottomRight() - QPoint(1, 1);
+  for (int x = from.x(); x <= to.x(); ++x)
+    ASSERT_EQ(picture.pixelColor(x, from.y() + 3), QColor(0, 255, 0)) << x;
+  for (int y = from.y(); y <= to.y(); ++y)
+    ASSERT_EQ(picture.pixelColor(from.x() + 3, y), QColor(0, 255, 0)) << y;
+}
+
+INSTANTIATE_TEST_SUITE_P(Screens, Sizes,
+                         testing::Values(std::pair{1024, 768}, std::pair{1366, 768},
+                                         std::pair{1920, 1080}, std::pair{2560, 1440},
+                                         std::pair{3840, 2160}));
+
+TEST(Window, EveryPlacedControlThatTakesAPressHasAToolTip) {
+  WindowRig rig;
+  for (const ControlWidget* control : rig.window->findChildren<ControlWidget*>()) {
+    const Element e = control->element();
+    const std::string name = control->objectName().toStdString();
+    // The pattern buttons tell on the line below them what they are.
+    if (name.starts_with("lblBreakMode(")) continue;
+    EXPECT_TRUE(!control->isButton() || !toolTipOf(e).isEmpty()) << name;
+    EXPECT_EQ(control->toolTip(), toolTipOf(e)) << name;
+  }
+}
+
+TEST(Window, AssistiveProgramsFindAButtonAndPressIt) {
+  WindowRig rig;
+  QAccessibleInterface* button = QAccessible::queryAccessibleInterface(&rig.widget("lblSposta(4)"));
+  ASSERT_NE(button, nullptr);
+  EXPECT_EQ(button->role(), QAccessible::Button);
+  EXPECT_EQ(button->text(QAccessible::Name), "Campo Verticale");
+  button->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+  EXPECT_EQ(rig.s().lblSomma.Caption, "204");
+  EXPECT_EQ(QAccessible::queryAccessibleInterface(&rig.widget("lblMode(1)"))->role(),
+            QAccessible::StaticText);
+}
+
+TEST(Window, ThePointerRestsWhileThePanelsAreHidden) {
+  WindowRig rig;
+  rig.click("cmdGoTimer");
+  rig.s().lblHide.BackColor = colours::selected;
+  rig.click("cmdGoTimer");
+  QTest::qWait(3300);
+  EXPECT_EQ(rig.field().cursor().shape(), Qt::BlankCursor);
+  QTest::mouseMove(&rig.field(), QPoint(300, 300));
+  QTest::mouseMove(&rig.field(), QPoint(310, 310));
+  QTest::qWait(50);
+  EXPECT_NE(rig.field().cursor().shape(), Qt::BlankCursor);
+}
+
+TEST(Window, AFaultEndsTheRunAndNothingMovesAfterIt) {
+  WindowRig rig;
+  rig.s().lblVelo[1].Caption = "abc";
+  rig.click("cmdGoTimer");
+  rig.click("cmdGoTimer");  // Go reads the speed
+  ASSERT_EQ(rig.faults.size(), 1);
+  EXPECT_TRUE(rig.faults[0].contains("lblVelo(1)")) << rig.faults[0].toStdString();
+  EXPECT_TRUE(rig.faults[0].contains("abc"));
+  EXPECT_TRUE(rig.runs().runEnded());
+  rig.click("lblSposta(9)");
+  EXPECT_EQ(rig.s().lblSomma.Caption, "201");
+}
+
+TEST(Window, AFaultsBoxIsClosedAsAPersonWould) {
+  QString shown;
+  QTimer::singleShot(100, [&] {
+    auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    ASSERT_NE(box, nullptr);
+    shown = box->text();
+    QTest::mouseClick(box->button(QMessageBox::Ok), Qt::LeftButton);
+  });
+  showFault("Default.txt, line 3: no", nullptr);
+  EXPECT_EQ(shown, "Default.txt, line 3: no");
+}
+
+}  // namespace caleidoscopio::test
