@@ -100,8 +100,10 @@ std::optional<bool> flag(std::string_view text) {
 
 /// A decimal number with a point and no exponent.
 std::optional<double> fraction(std::string_view text) {
-  if (text.starts_with('+')) text.remove_prefix(1);
-  if (text.starts_with('+')) return std::nullopt;
+  if (text.starts_with('+')) {
+    text.remove_prefix(1);
+    if (text.starts_with('-')) return std::nullopt;
+  }
   double number = 0;
   const auto [end, error] =
       std::from_chars(text.data(), text.data() + text.size(), number, std::chars_format::fixed);
