@@ -90,6 +90,8 @@ void tieHandlers(Store& s) {
       {s.TmrGoA, 0, 0, Tick, on(s, TmrGoA_Timer)},
       // colours
       {s.Command1, 0, 0, Click, on(s, ColoreCasualeAttivo)},
+      // end picture
+      {s.lblZQ, 0, 0, Click, [&s](int) { s.ended = true; }},
   };
   for (const HandlerRow& row : rows) row.control.tie(row.event, row.first, row.last, row.handler);
 }

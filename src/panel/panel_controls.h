@@ -20,6 +20,9 @@ struct PanelControls {
   Time time;
   ControlList controls;     ///< every control of the whole panel, by name
   std::vector<Spot> spots;  ///< those that a person sees, each after its parent
+  /// The program's own end: the click on the end picture sets it, and the face that brought the
+  /// click in ends the program as soon as the handler has run.
+  bool ended = false;
 
   Group windowGroup;
   Single<Window> form{windowGroup, "form", Caption{"Caleidoscopio"}, Back{colours::ground},
