@@ -1,6 +1,7 @@
 #include "memories/memory_files.h"
 
 #include <algorithm>
+#include <cassert>
 #include <string_view>
 
 #include "panel/end_run.h"
@@ -22,20 +23,17 @@ std::string namesPath() {
   return under("Dati", "Memorie.txt");
 }
 
-bool namesMemory(std::string_view name) {
-  if (name.size() == 1 && name[0] >= 'A' && name[0] <= 'E') return true;
-  const bool digits =
-      !name.empty() && name.size() <= 2 &&
-      std::all_of(name.begin(), name.end(), [](char c) { return c >= '0' && c <= '9'; });
-  return digits && (name.size() == 1 || name[0] != '0');
+std::string memoryPath(std::string_view name) {
+  assert(namesMemory(name));
+  return under("Save", std::string(name) + ".txt");
 }
 
-std::string memoryPath(const MemoryControls& s) {
+const std::string& selected(const MemoryControls& s) {
   const std::string& name = s.lblSelez.Caption;
   if (!namesMemory(name))
     endRun("lblSelez.Caption is \"" + name +
            "\", which names no memory file; expected \"0\" to \"99\" or \"A\" to \"E\"");
-  return under("Save", name + ".txt");
+  return name;
 }
 
 void load(MemoryControls& s, const Record& record, const std::string& name) {
@@ -69,11 +67,26 @@ std::string defaultMemoryPath() {
   return under("Dati", "Default.txt");
 }
 
+bool namesMemory(std::string_view name) {
+  if (name.size() == 1 && name[0] >= 'A' && name[0] <= 'E') return true;
+  const bool digits =
+      !name.empty() && name.size() <= 2 &&
+      std::all_of(name.begin(), name.end(), [](char c) { return c >= '0' && c <= '9'; });
+  return digits && (name.size() == 1 || name[0] != '0');
+}
+
+void loadMemory(MemoryControls& s, std::string_view name) {
+  load(s, memoryRecord(s), memoryPath(name));
+}
+void saveMemory(MemoryControls& s, std::string_view name) {
+  save(s, memoryRecord(s), memoryPath(name));
+}
+
 void CaricaMemoria(MemoryControls& s) {
-  load(s, memoryRecord(s), memoryPath(s));
+  loadMemory(s, selected(s));
 }
 void SalvaMemoria(MemoryControls& s) {
-  save(s, memoryRecord(s), memoryPath(s));
+  saveMemory(s, selected(s));
 }
 void CaricaDefault(MemoryControls& s) {
   load(s, memoryRecord(s), defaultMemoryPath());

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <string>
+#include <string_view>
+
 #include "memories/memory_controls.h"
 
 namespace caleidoscopio {
@@ -7,8 +10,14 @@ namespace caleidoscopio {
 // The files of the instrument, under the root in lblDir. A file that cannot be read or written,
 // or that is damaged, ends the run.
 
-/// Reads or writes the memory that lblSelez names: "0" to "99", "A" to "E". Any other name leads
-/// to no file and ends the run. Nothing else follows from a load.
+/// True for the name of a memory file: "0" to "99", "A" to "E".
+bool namesMemory(std::string_view name);
+/// Reads or writes the memory of that name, which must be one, whatever lblSelez holds. Nothing
+/// else follows from a load.
+void loadMemory(MemoryControls& s, std::string_view name);
+void saveMemory(MemoryControls& s, std::string_view name);
+
+/// The same for the memory that lblSelez names. A name that is none ends the run.
 void CaricaMemoria(MemoryControls& s);
 void SalvaMemoria(MemoryControls& s);
 
