@@ -69,7 +69,9 @@ constexpr Lines straight(const Order& order, bool byRows) {
   return lines;
 }
 
-constexpr int wrapped(int n) { return (n + 8) % 9 + 1; }
+constexpr int wrapped(int n) {
+  return (n + 8) % 9 + 1;
+}
 
 /// The n-th place, from 0, of a serpentine through a square of `size` by `size`.
 constexpr Quartet serpentinePlace(int n, int size, Serpentine by) {
@@ -80,8 +82,12 @@ constexpr Quartet serpentinePlace(int n, int size, Serpentine by) {
 
 }  // namespace lines_detail
 
-constexpr Lines rows(const Order& order) { return lines_detail::straight(order, true); }
-constexpr Lines columns(const Order& order) { return lines_detail::straight(order, false); }
+constexpr Lines rows(const Order& order) {
+  return lines_detail::straight(order, true);
+}
+constexpr Lines columns(const Order& order) {
+  return lines_detail::straight(order, false);
+}
 
 constexpr Lines diagonals(Heads heads, Quartet source) {
   using namespace lines_detail;
@@ -109,8 +115,8 @@ constexpr Lines blockSerpentine(Serpentine by) {
   for (int place = 0; place < 9; ++place)
     for (int n = 0; n < 9; ++n) {
       const Quartet block = lines_detail::serpentinePlace(n, 3, by);
-      lines.leaders[static_cast<std::size_t>(place * 9 + n)] = lines_detail::leader(
-          {3 * block.row - 2 + place / 3, 3 * block.column - 2 + place % 3});
+      lines.leaders[static_cast<std::size_t>(place * 9 + n)] =
+          lines_detail::leader({3 * block.row - 2 + place / 3, 3 * block.column - 2 + place % 3});
     }
   return lines;
 }
