@@ -1,13 +1,17 @@
 #include "instrument.h"
 
 #include "colours/random_active.h"
+#include "memories/bank.h"
 #include "mosaic/cells.h"
 #include "mosaic/painting.h"
 #include "mosaic/slots.h"
 #include "mosaic/tools.h"
 #include "panel/go_stop.h"
+#include "panel/leave.h"
 #include "panel/speeds.h"
 #include "panel/start_up.h"
+#include "sequencer/editing.h"
+#include "sequencer/steps.h"
 #include "shift/shift.h"
 #include "transform/transform.h"
 
@@ -76,8 +80,10 @@ void tieHandlers(Store& s) {
       {s.lblTotali, 0, 24, Click, on(s, lblTotali_Click)},
       {s.lblSfondo, 0, 6, Click, on(s, lblSfondo_Click)},
       {s.lblSelSfondo, 0, 2, Click, on(s, lblSelSfondo_Click)},
-      {s.lblComCol, 0, 8, MouseDown, on(s, lblComCol_MouseDown)},
-      {s.lblComCol, 0, 8, MouseUp, on(s, lblComCol_MouseUp)},
+      {s.lblComCol, 0, 4, MouseDown, on(s, lblComCol_MouseDown)},
+      {s.lblComCol, 6, 8, MouseDown, on(s, lblComCol_MouseDown)},
+      {s.lblComCol, 2, 3, MouseUp, on(s, lblComCol_MouseUp)},
+      {s.lblComCol, 6, 6, MouseUp, on(s, lblComCol_MouseUp)},
       {s.lblBack, 0, 0, MouseDown, on(s, lblBack_MouseDown)},
       {s.lblBack, 0, 0, MouseUp, on(s, lblBack_MouseUp)},
       {s.Label3, 0, 0, Click, on(s, Label3_Click)},
@@ -90,8 +96,46 @@ void tieHandlers(Store& s) {
       {s.TmrGoA, 0, 0, Tick, on(s, TmrGoA_Timer)},
       // colours
       {s.Command1, 0, 0, Click, on(s, ColoreCasualeAttivo)},
+      // sequencer
+      {s.TmrSequencer, 0, 0, Tick, on(s, TmrSequencer_Timer)},
+      {s.lblSeq, 1, 3, MouseDown, on(s, lblSeq_MouseDown)},
+      {s.lblSeq, 5, 7, MouseDown, on(s, lblSeq_MouseDown)},
+      {s.lblSeq, 9, 10, MouseDown, on(s, lblSeq_MouseDown)},
+      {s.lblSeq, 11, 11, MouseDown, on(s, lblSeq_MouseDown)},
+      {s.lblSeq, 13, 13, MouseDown, on(s, lblSeq_MouseDown)},
+      {s.lblSeq, 1, 3, MouseUp, on(s, lblSeq_MouseUp)},
+      {s.lblSeq, 5, 7, MouseUp, on(s, lblSeq_MouseUp)},
+      {s.lblSeq, 9, 10, MouseUp, on(s, lblSeq_MouseUp)},
+      {s.lblSeq, 13, 13, MouseUp, on(s, lblSeq_MouseUp)},
+      {s.lblSeq, 9, 10, Click, on(s, lblSeq_Click)},
+      {s.lblSeq, 13, 13, Click, on(s, lblSeq_Click)},
+      {s.TmrScorriSeq, 0, 0, Tick, on(s, TmrScorriSeq_Timer)},
+      {s.TmrStepTotali, 0, 0, Tick, on(s, TmrStepTotali_Timer)},
+      {s.lblAvanza, 0, 1, MouseDown, on(s, lblAvanza_MouseDown)},
+      {s.lblAvanza, 0, 1, MouseUp, on(s, lblAvanza_MouseUp)},
+      {s.TmrAvanza, 0, 0, Tick, on(s, TmrAvanza_Timer)},
+      {s.lblNOrdine, 25, 25, MouseDown, on(s, lblNOrdine_MouseDown)},
+      {s.lblNOrdine, 25, 25, MouseUp, on(s, lblNOrdine_MouseUp)},
+      {s.lblNOrdine, 25, 25, Click, on(s, lblNOrdine_Click)},
+      {s.lblDisattiva, 0, 2, Click, on(s, lblDisattiva_Click)},
+      // memories
+      {s.lblSave, 0, 9, Click, on(s, lblSave_Click)},
+      {s.lblSave, 11, 15, Click, on(s, lblSave_Click)},
+      {s.lblSalvaComb, 0, 1, Click, on(s, lblSalvaComb_Click)},
+      {s.TxtNomeMemoria, 0, 0, KeyPress, on(s, TxtNomeMemoria_KeyPress)},
+      {s.lblCanc, 0, 0, Click, on(s, lblCanc_Click)},
+      {s.lblComandiVari, 0, 2, Click,
+       [&s](int k) {
+         if (k == 2)
+           leave(s);
+         else
+           lblComandiVari_Click(s, k);
+       }},
+      {s.lblMemo, 1, 2, MouseDown, on(s, lblMemo_MouseDown)},
+      {s.lblMemo, 1, 2, MouseUp, on(s, lblMemo_MouseUp)},
+      {s.TmrScorriMemo, 0, 0, Tick, on(s, TmrScorriMemo_Timer)},
       // end picture
-      {s.lblZQ, 0, 0, Click, [&s](int) { s.ended = true; }},
+      {s.lblZQ, 0, 0, Click, on(s, lblZQ_Click)},
   };
   for (const HandlerRow& row : rows) row.control.tie(row.event, row.first, row.last, row.handler);
 }

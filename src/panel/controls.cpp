@@ -40,19 +40,22 @@ int Control::indexOf(const void* address) const {
 
 void Control::tie(Event event, int first, int last, Handler handler) {
   assert(contains(first) && contains(last));
-  Tied& tied = tied_[static_cast<std::size_t>(event)];
-  assert(!tied.run && "one event of a control has one handler");
-  tied = {first, last, std::move(handler)};
+  for ([[maybe_unused]] int i = first; i <= last; ++i)
+    assert(!handles(event, i) && "one event of an element has one handler");
+  tied_[static_cast<std::size_t>(event)].push_back({first, last, std::move(handler)});
 }
 
-bool Control::handles(Event event, int index) const {
-  const Tied& tied = tied_[static_cast<std::size_t>(event)];
-  return tied.run && tied.first <= index && index <= tied.last;
+const Control::Tied* Control::tiedTo(Event event, int index) const {
+  for (const Tied& tied : tied_[static_cast<std::size_t>(event)])
+    if (tied.first <= index && index <= tied.last) return &tied;
+  return nullptr;
 }
+
+bool Control::handles(Event event, int index) const { return tiedTo(event, index) != nullptr; }
 
 void Control::raise(Event event, int index, int argument) const {
   if (!contains(index)) outside(index);
-  if (handles(event, index)) tied_[static_cast<std::size_t>(event)].run(argument);
+  if (const Tied* tied = tiedTo(event, index)) tied->run(argument);
 }
 
 void Control::outside(int index) const {

@@ -132,7 +132,7 @@ class Control {
   /// The index of the element that lies at `address`, or -1 when it is none of this control's.
   int indexOf(const void* address) const;
 
-  /// Ties `handler` to an event of the elements from `first` to `last`.
+  /// Ties `handler` to an event of the elements from `first` to `last`, which have none yet.
   void tie(Event event, int first, int last, Handler handler);
   /// True if the element has a handler for the event.
   bool handles(Event event, int index = 0) const;
@@ -149,10 +149,10 @@ class Control {
 
  private:
   struct Tied {
-    int first = 0;
-    int last = -1;
+    int first, last;
     Handler run;
   };
+  const Tied* tiedTo(Event event, int index) const;
   std::string_view name_;
   Kind kind_;
   int first_;
@@ -160,7 +160,7 @@ class Control {
   bool single_;
   void* elements_;
   std::size_t stride_;
-  Tied tied_[eventCount];
+  std::vector<Tied> tied_[eventCount];
 };
 
 /// The click of a control, as a user would make it.

@@ -11,7 +11,6 @@ namespace caleidoscopio {
 
 namespace {
 
-constexpr double tableLeft = 2730;      // of the sequencer's table while stopped
 constexpr double tableLeftInRun = 210;  // where the left panel was
 
 bool running(const RunControls& s) {
@@ -72,7 +71,7 @@ void stop(RunControls& s, const ScreenFit& fit) {
   if (s.lblSpiaBreak.BackColor == colours::selected)
     s.lblBreakMode[21].BackColor = colours::unselected;
   s.FraPannello[2].Visible = s.lblSeq[11].BackColor != colours::unselected;
-  if (s.FraPannello[2].Visible) s.FraPannello[2].Left = placedLeft(fit, tableLeft);
+  if (s.FraPannello[2].Visible) s.FraPannello[2].Left = placedLeft(fit, sequencerTableLeft);
   // TmrBreak is left alone on purpose: a sweep under way runs out to its end.
   for (Timer* timer : {&s.TmrGoA, &s.TmrGoB, &s.TmrGoC, &s.TmrGoD, &s.TmrBrk})
     timer->setEnabled(false);

@@ -18,8 +18,9 @@ struct PanelControls {
 
   Platform* platform = nullptr;  ///< set by the instrument before anything runs
   Time time;
-  ControlList controls;     ///< every control of the whole panel, by name
-  std::vector<Spot> spots;  ///< those that a person sees, each after its parent
+  ControlList controls;        ///< every control of the whole panel, by name
+  std::vector<Spot> spots;     ///< those that a person sees, each after its parent
+  std::vector<Spot> endSpots;  ///< the same for the end picture
   /// The program's own end: the click on the end picture sets it, and the face that brought the
   /// click in ends the program as soon as the handler has run.
   bool ended = false;
@@ -60,14 +61,38 @@ struct PanelControls {
   /// sequencer's table; all others head a section of the panels or name a value.
   Labels<0, 49> lblScritteVarie{
       panelGroup, "lblScritteVarie",
-      Captions{0, {"A -Timer Shift", "B - Timer Transform", "C - Timer Frame", "D - Timer Break",
-                   "E - Timer Sequencer", "Gamma Colori", "Strumenti disegno", "Caleidoscopio",
-                   "Un tasto, o un clic fuori dal campo, mostra i pannelli", "", "Palette",
-                   "Random Colori", "A", "B", "F - Timer Colori", "Memorie", "Matrice RW", "m:",
-                   "+R:", "C"}},
-      Captions{20, {"Rett.", "Croce", "Corn.", "Campo", "Colori", "Creazione:", "Angolo", "Misura",
-                    "Lunghezze", "Colori", "Nessuna opzione", "Raro", "Frequente", "Cella",
-                    "Numero Scambi:", "Croce", "Corn.", "Ripresa", "Passo", "+ s", "Colori"}}};
+      Captions{0,
+               {"A -Timer Shift",
+                "B - Timer Transform",
+                "C - Timer Frame",
+                "D - Timer Break",
+                "E - Timer Sequencer",
+                "Gamma Colori",
+                "Strumenti disegno",
+                "Caleidoscopio",
+                "Un tasto, o un clic fuori dal campo, mostra i pannelli",
+                "",
+                "Palette",
+                "Random Colori",
+                "A",
+                "B",
+                "F - Timer Colori",
+                "Memorie",
+                "Matrice RW",
+                "m:",
+                "+R:",
+                "C"}},
+      Captions{20, {"Rett.",           "Croce",
+                    "Corn.",           "Campo",
+                    "Colori",          "Creazione:",
+                    "Angolo",          "Misura",
+                    "Lunghezze",       "Colori",
+                    "Nessuna opzione", "Raro",
+                    "Frequente",       "Cella",
+                    "Numero Scambi:",  "Croce",
+                    "Corn.",           "Ripresa",
+                    "Passo",           "+ s",
+                    "Colori",          "Digita il nome della memoria che salvi e poi premi Ok"}}};
   OneLabel lblDir{panelGroup, "lblDir"};
 
   // Timers due at the same moment fire in the order in which they stand here.

@@ -15,13 +15,12 @@ ScreenFit fitTo(ScreenSize screen) {
   return fit;
 }
 
-void scaleToScreen(PanelControls& s) {
-  const ScreenSize screen = s.platform->screen;
+void scaleToScreen(Frame& window, std::span<const Spot> spots, ScreenSize screen) {
   if (screen.width == designSize.width && screen.height == designSize.height) return;
   const ScreenFit fit = fitTo(screen);
-  s.form.Width = {screen.width};
-  s.form.Height = {screen.height};
-  for (const Spot& spot : s.spots) {
+  window.Width = {screen.width};
+  window.Height = {screen.height};
+  for (const Spot& spot : spots) {
     const Geometry g = geometryOf(spot.element);
     g.height = g.height * fit.height;
     g.top = g.top * fit.height;

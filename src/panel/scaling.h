@@ -1,5 +1,7 @@
 #pragma once
 
+#include <span>
+
 #include "panel/panel_controls.h"
 
 namespace caleidoscopio {
@@ -20,12 +22,16 @@ struct ScreenFit {
 /// drawing: meant so.
 ScreenFit fitTo(ScreenSize screen);
 
+/// Where the sequencer's table stands while stopped: over the left side of the field.
+inline constexpr double sequencerTableLeft = 2730;
+
 /// Where a control that stands `designLeft` from the form's left edge comes to stand.
 inline Twips placedLeft(const ScreenFit& fit, double designLeft) {
   return {fit.width != 1 ? designLeft * fit.width : fit.offset + designLeft};
 }
 
-/// Fits every placed control to the screen, once. On a screen of the design's size nothing moves.
-void scaleToScreen(PanelControls& s);
+/// Fits a window and every control placed on it to the screen; to be done once. On a screen of
+/// the design's size nothing moves.
+void scaleToScreen(Frame& window, std::span<const Spot> spots, ScreenSize screen);
 
 }  // namespace caleidoscopio

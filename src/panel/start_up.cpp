@@ -39,7 +39,7 @@ void Form_Load(RunControls& s) {
   }
   // The panel is built wider than it shows; what lies beyond is cut off.
   s.FraPannello[0].Width = {2255};
-  scaleToScreen(s);
+  scaleToScreen(s.form, s.spots, s.platform->screen);
   showContour(s);
   cmdGoTimer_Click(s);
 }
