@@ -1,5 +1,7 @@
 #include <cassert>
+#include <span>
 #include <string_view>
+#include <vector>
 
 #include "instrument.h"
 #include "mosaic/index_map.h"
@@ -51,9 +53,9 @@ const Panel panels[] = {
     {"form", true, {
         {"ShpContour", {0, 1}, {2625, 725, 10110, 10095}, Ground},
         {"ShpRettangolo", {0, 1}, {3120, 1200, 4335, 4335}, Ground},
-        {"lblScritteVarie", {7, 1}, {2640, 90, 10095, 540}, Heading, 20},
-        {"lblScritteVarie", {8, 1}, {2640, 10890, 10095, 285}, Heading, 9},
-        {"lblScritteVarie", {9, 1}, {2640, 11175, 10095, 285}, Heading, 9},
+        {"lblScritteVarie", {7, 1}, {2640, 90, 10095, 540}, Title, 20},
+        {"lblScritteVarie", {8, 1}, {2640, 10890, 10095, 285}, Title, 9},
+        {"lblScritteVarie", {9, 1}, {2640, 11175, 10095, 285}, Title, 9},
         {"FraPannello", {0, 1}, {210, 240, 8760, 11055}, Ground},
         {"FraPannello", {1, 1}, {12915, 315, 2255, 11055}, Ground},
         {"FraPannello", {2, 1}, {2730, 840, 2255, 9855}, Ground},
@@ -259,6 +261,30 @@ const Panel panels[] = {
         {"lblDisattiva", {0, 1}, {390, 6360, 690, 225}, Choice},
         {"lblDisattiva", {1, 1}, {1110, 6360, 420, 225}, Choice},
         {"lblDisattiva", {2, 1}, {1560, 6360, 630, 225}, Choice},
+        // The titles of all ten banks lie on the same ten places; one bank is shown.
+        {"lblComb", {0, 10}, {60, 6675, 2130, 195}, Display, 7, {0, 207, 1}},
+        {"lblComb", {10, 10}, {60, 6675, 2130, 195}, Display, 7, {0, 207, 1}},
+        {"lblComb", {20, 10}, {60, 6675, 2130, 195}, Display, 7, {0, 207, 1}},
+        {"lblComb", {30, 10}, {60, 6675, 2130, 195}, Display, 7, {0, 207, 1}},
+        {"lblComb", {40, 10}, {60, 6675, 2130, 195}, Display, 7, {0, 207, 1}},
+        {"lblComb", {50, 10}, {60, 6675, 2130, 195}, Display, 7, {0, 207, 1}},
+        {"lblComb", {60, 10}, {60, 6675, 2130, 195}, Display, 7, {0, 207, 1}},
+        {"lblComb", {70, 10}, {60, 6675, 2130, 195}, Display, 7, {0, 207, 1}},
+        {"lblComb", {80, 10}, {60, 6675, 2130, 195}, Display, 7, {0, 207, 1}},
+        {"lblComb", {90, 10}, {60, 6675, 2130, 195}, Display, 7, {0, 207, 1}},
+        {"lblComb", {101, 5}, {60, 8790, 2130, 195}, Display, 7, {0, 207, 1}},
+    }},
+};
+
+const Panel endPanels[] = {
+    {"frmMiroVelTaZQ", true, {
+        {"FraZQ", {0, 1}, {2640, 720, 10080, 10080}, Ground},
+    }},
+    {"FraZQ", false, {
+        {"lblScritteVarieC", {0, 1}, {240, 300, 9600, 900}, Title, 28},
+        {"ImgZQ", {0, 1}, {1440, 1320, 7200, 7200}, Ground},
+        {"lblZQ", {0, 1}, {1440, 1320, 7200, 7200}, Heading},
+        {"lblAvvertimento2", {0, 1}, {240, 8760, 9600, 900}, Title, 22},
     }},
 };
 // clang-format on
@@ -269,14 +295,14 @@ Element elementNamed(const Store& s, std::string_view text) {
   return std::get<Element>(found);
 }
 
-void place(Store& s, const Spot& spot, const Box& box, double points) {
+void place(std::vector<Spot>& spots, const Spot& spot, const Box& box, double points) {
   const Geometry g = geometryOf(spot.element);
   g.left = {box.left};
   g.top = {box.top};
   g.width = {box.width};
   g.height = {box.height};
   if (g.font) *g.font = {points};
-  s.spots.push_back(spot);
+  spots.push_back(spot);
 }
 
 /// The cells overlap by one pixel, so that the lines around them coincide.
@@ -288,15 +314,12 @@ void placeCells(Store& s) {
     Box box = topLeft;
     box.left += pitch * at.column;
     box.top += pitch * at.row;
-    place(s, {{&s.lblMiro, i}, {&s.form, 0}, Cell, true}, box, 18);
+    place(s.spots, {{&s.lblMiro, i}, {&s.form, 0}, Cell, true}, box, 18);
   }
 }
 
-}  // namespace
-
-void placeControls(Store& s) {
-  placeCells(s);
-  for (const Panel& panel : panels) {
+void placePanels(Store& s, std::span<const Panel> rows, std::vector<Spot>& spots) {
+  for (const Panel& panel : rows) {
     const Element parent = elementNamed(s, panel.parent);
     for (const PlacementRow& row : panel.rows) {
       Control* control = s.controls.find(row.control);
@@ -305,11 +328,19 @@ void placeControls(Store& s) {
         Box box = row.box;
         box.left += row.grid.across * (n % row.grid.columns);
         box.top += row.grid.down * (n / row.grid.columns);
-        place(s, {{control, row.elements.first + n}, parent, row.look, panel.withField}, box,
+        place(spots, {{control, row.elements.first + n}, parent, row.look, panel.withField}, box,
               row.points);
       }
     }
   }
+}
+
+}  // namespace
+
+void placeControls(Store& s) {
+  placeCells(s);
+  placePanels(s, panels, s.spots);
+  placePanels(s, endPanels, s.endSpots);
 }
 
 }  // namespace caleidoscopio

@@ -12,10 +12,12 @@ namespace {
 
 constexpr QRgb edgeOfPaper = 0xFFB9AE8C;  // the thin line around what stands on a panel
 
+bool bare(Look look) { return look == Look::Heading || look == Look::Title; }
+
 void prepare(QWidget& widget, const Spot& spot) {
   widget.setObjectName(QString::fromStdString(spot.element.control->nameOf(spot.element.index)));
   widget.setAttribute(Qt::WA_NoMousePropagation);  // a disabled control's press is nobody's
-  widget.setAttribute(Qt::WA_OpaquePaintEvent, spot.look != Look::Heading);
+  widget.setAttribute(Qt::WA_OpaquePaintEvent, !bare(spot.look));
 }
 
 void place(QWidget& widget, Element element) {
@@ -35,10 +37,9 @@ ControlWidget::ControlWidget(const Spot& spot, Hand& hand, Driver& driver, QWidg
       takesPress_(Hand::takesPress(spot.element)) {
   prepare(*this, spot);
   setMouseTracking(spot.element.control->handles(Event::MouseMove, spot.element.index));
-  const QString tip = toolTipOf(spot.element);
-  setToolTip(tip);
-  setAccessibleName(tip);
   if (takesPress_) setCursor(Qt::PointingHandCursor);
+  // The headings around the field are part of the bare form.
+  if (spot.look == Look::Heading && spot.withField) setAttribute(Qt::WA_TransparentForMouseEvents);
   mirror();
 }
 
@@ -50,6 +51,10 @@ void ControlWidget::mirror() {
   const Label& now = label();
   place(*this, spot_.element);
   if (isEnabled() != now.Enabled) setEnabled(now.Enabled);
+  if (const QString tip = toolTipOf(driver_.store(), spot_.element); tip != toolTip()) {
+    setToolTip(tip);
+    setAccessibleName(tip);
+  }
   if (caption_ == now.Caption && back_ == now.BackColor && fore_ == now.ForeColor &&
       border_ == now.BorderStyle && points_ == now.FontSize.value)
     return;
@@ -62,16 +67,16 @@ void ControlWidget::mirror() {
 }
 
 QRect ControlWidget::textBox() const {
-  return spot_.look == Look::Heading ? rect() : rect().adjusted(1, 1, -1, -1);
+  return bare(spot_.look) ? rect() : rect().adjusted(1, 1, -1, -1);
 }
 
 int ControlWidget::textFlags() const {
-  const bool leading = spot_.look == Look::Heading && !spot_.withField;
+  const bool leading = spot_.look == Look::Heading;
   return Qt::TextWordWrap | Qt::AlignVCenter | (leading ? Qt::AlignLeft : Qt::AlignHCenter);
 }
 
 QFont ControlWidget::letters() const {
-  return lettersOf({points_}, spot_.look == Look::Heading);
+  return lettersOf({points_}, bare(spot_.look));
 }
 
 bool ControlWidget::showsWholeCaption() const {
@@ -115,13 +120,18 @@ void ControlWidget::paintBody(QPainter& painter, const QColor& ground) const {
 
 void ControlWidget::paintEvent(QPaintEvent*) {
   QPainter painter(this);
-  if (spot_.look != Look::Heading) paintBody(painter, toScreen(back_));
+  if (!bare(spot_.look)) paintBody(painter, toScreen(back_));
   if (caption_.empty()) return;
   painter.setFont(letters());
   QColor ink = toScreen(fore_);
   if (!isEnabled()) ink.setAlphaF(0.45F);
   painter.setPen(ink);
-  painter.drawText(textBox(), textFlags(), QString::fromStdString(caption_));
+  const QString caption = QString::fromStdString(caption_);
+  if (showsWholeCaption())
+    painter.drawText(textBox(), textFlags(), caption);
+  else  // only a title can be longer than its place
+    painter.drawText(textBox(), Qt::AlignVCenter | Qt::AlignLeft,
+                     painter.fontMetrics().elidedText(caption, Qt::ElideRight, textBox().width()));
 }
 
 void ControlWidget::mousePressEvent(QMouseEvent* event) {

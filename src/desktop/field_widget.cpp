@@ -17,7 +17,7 @@ FieldWidget::FieldWidget(Driver& driver, Hand& hand, QWidget* parent)
   setAttribute(Qt::WA_OpaquePaintEvent);
   setAttribute(Qt::WA_NoMousePropagation);
   setMouseTracking(true);
-  setAccessibleName(toolTipOf({&driver.store().form, 0}));
+  setAccessibleName(toolTipOf(driver.store(), {&driver.store().form, 0}));
 }
 
 void FieldWidget::measure() {
@@ -190,7 +190,8 @@ bool FieldWidget::event(QEvent* event) {
   const auto& help = static_cast<const QHelpEvent&>(*event);
   // On the cells a tip would be in the way of painting.
   if (cellAt(help.pos()) == 0)
-    QToolTip::showText(help.globalPos(), toolTipOf({&driver_.store().form, 0}), this);
+    QToolTip::showText(help.globalPos(), toolTipOf(driver_.store(), {&driver_.store().form, 0}),
+                       this);
   else
     QToolTip::hideText();
   return true;

@@ -84,6 +84,7 @@ int run(QApplication& app) {
   Platform platform{clock, generator, files, sizeInTwips(screen)};
   Driver driver(platform);
   std::optional<MainWindow> window;
+  std::optional<EndWindow> endPicture;
 
   QObject::connect(&driver, &Driver::faulted, [&](const QString& message) {
     std::fprintf(stderr, "caleidoscopio: %s\n", qPrintable(message));
@@ -98,6 +99,16 @@ int run(QApplication& app) {
   window->setGeometry(screen.geometry());
   window->mirror();
   window->showFullScreen();
+
+  QObject::connect(&driver, &Driver::changed, [&] {
+    const Store& s = driver.store();
+    if (s.ended) QCoreApplication::quit();
+    if (!s.frmMiroVelTaZQ.Visible || endPicture) return;
+    endPicture.emplace(driver);
+    endPicture->setGeometry(screen.geometry());
+    endPicture->showFullScreen();
+    window->hide();
+  });
   const int status = app.exec();
   return driver.runEnded() ? fault : status;
 }

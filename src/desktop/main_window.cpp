@@ -21,44 +21,16 @@ MainWindow::MainWindow(Driver& driver)
   connect(&pointerRest_, &QTimer::timeout, this, [this] {
     if (panelsHidden()) setCursor(Qt::BlankCursor);
   });
-  build();
+  Store& s = driver.store();
+  tree_.build(*this, {&s.form, 0}, s.spots, hand_, driver);
+  setFocusPolicy(Qt::StrongFocus);
   connect(&driver_, &Driver::changed, this, &MainWindow::mirror);
   qApp->installEventFilter(this);
 }
 
-void MainWindow::build() {
-  const Store& s = driver_.store();
-  const auto keyOf = [](Element e) { return std::pair<const Control*, int>(e.control, e.index); };
-  frames_[keyOf({&driver_.store().form, 0})] = this;
-  for (const Spot& spot : s.spots) {
-    QWidget* parent = widgetOf(spot.parent);
-    // What stands in a frame that nobody sees has no widget; cells and outlines are the field's.
-    if (!parent || spot.look == Look::Cell) continue;
-    switch (spot.element.control->kind()) {
-      case Kind::Frame:
-        grounds_.push_back(new GroundWidget(spot, parent));
-        frames_[keyOf(spot.element)] = grounds_.back();
-        break;
-      case Kind::Label:
-        controls_.push_back(new ControlWidget(spot, hand_, driver_, parent));
-        // The headings around the field are part of the bare form.
-        if (parent == this) controls_.back()->setAttribute(Qt::WA_TransparentForMouseEvents);
-        break;
-      default:
-        break;
-    }
-  }
-}
-
-QWidget* MainWindow::widgetOf(Element element) const {
-  const auto at = frames_.find({element.control, element.index});
-  return at == frames_.end() ? nullptr : at->second;
-}
-
 void MainWindow::mirror() {
   field_->mirror();
-  for (GroundWidget* ground : grounds_) ground->mirror();
-  for (ControlWidget* control : controls_) control->mirror();
+  tree_.mirror();
   hand_.check();
   restPointer();
 }

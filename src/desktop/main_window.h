@@ -2,12 +2,9 @@
 
 #include <QTimer>
 #include <QWidget>
-#include <map>
-#include <utility>
-#include <vector>
 
-#include "desktop/control_widget.h"
 #include "desktop/field_widget.h"
+#include "desktop/widget_tree.h"
 
 namespace caleidoscopio {
 
@@ -27,18 +24,31 @@ class MainWindow : public QWidget {
   void resizeEvent(QResizeEvent* event) override;
 
  private:
-  void build();
-  QWidget* widgetOf(Element element) const;
   bool panelsHidden() const;
   void restPointer();
 
   Driver& driver_;
   Hand hand_;
   FieldWidget* field_;
-  std::vector<ControlWidget*> controls_;
-  std::vector<GroundWidget*> grounds_;
-  std::map<std::pair<const Control*, int>, QWidget*> frames_;
+  WidgetTree tree_;
   QTimer pointerRest_;
+};
+
+/// The last thing that the user sees. A click on the picture ends the program.
+class EndWindow : public QWidget {
+  Q_OBJECT
+ public:
+  explicit EndWindow(Driver& driver);
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  void mirror();
+
+  Driver& driver_;
+  Hand hand_;
+  WidgetTree tree_;
 };
 
 /// Shows a fault that ended the run, until a person closes the box.

@@ -175,15 +175,27 @@ constexpr Tip tips[] = {
     {"lblCanc", 0, 0, "Il prossimo clic su una memoria la cancella"},
     {"lblComandiVari", 1, 1, "Il prossimo clic su una memoria la salva"},
     {"lblComandiVari", 2, 2, "Salva tutto ed esce"},
+    {"TxtNomeMemoria", 0, 0, "Titolo della memoria: Invio la salva"},
     {"lblSalvaComb", 0, 0, "Salva con questo nome"},
     {"lblSalvaComb", 1, 1, "Non salva"},
     {"lblZQ", 0, 0, "Un clic chiude il programma"},
 };
 // clang-format on
 
+/// The title of the memory that a button stands for, or null for anything else.
+const std::string* titleUnder(const Store& s, Element element) {
+  if (element.control != &s.lblSave || element.index == 10) return nullptr;
+  if (element.index > 10) return &s.lblComb[element.index + 90].Caption;
+  const auto bank = wholeNumber(s.lblMemo[0].Caption);
+  const int n = element.index + 10 * bank.value_or(-1);
+  return s.lblComb.contains(n) ? &s.lblComb[n].Caption : nullptr;
+}
+
 }  // namespace
 
-QString toolTipOf(Element element) {
+QString toolTipOf(const Store& s, Element element) {
+  if (const std::string* title = titleUnder(s, element); title && !title->empty())
+    return QString::fromStdString(*title);
   for (const Tip& tip : tips)
     if (tip.control == element.control->name() && tip.first <= element.index &&
         element.index <= tip.last)

@@ -2,11 +2,12 @@
 
 #include <QString>
 
-#include "panel/control_list.h"
+#include "instrument.h"
 
 namespace caleidoscopio {
 
-/// What a click on the element does, or what it shows, in Italian; empty where nothing is to say.
-QString toolTipOf(Element element);
+/// What a click on the element does, or what it shows, in Italian; the title of a memory on its
+/// button; empty where nothing is to say.
+QString toolTipOf(const Store& s, Element element);
 
 }  // namespace caleidoscopio

@@ -56,6 +56,7 @@ void askForTitle(MemoryControls& s, Colour state) {
 
 void AggiornaBanco(MemoryControls& s) {
   for (int i = 0; i <= 9; ++i) s.lblSave[i].BackColor = s.lblComb[memoryNumber(s, i)].BackColor;
+  showTitlesOfBank(s);
 }
 
 void stepBank(MemoryControls& s, bool up) {
@@ -86,6 +87,11 @@ void clickNumbered(MemoryControls& s, int k) {
 }
 
 }  // namespace
+
+void showTitlesOfBank(MemoryControls& s) {
+  const std::int64_t bank = number(s, s.lblMemo[0]);
+  for (int n = 0; n <= 99; ++n) s.lblComb[n].Visible = n / 10 == bank;
+}
 
 void lblSave_Click(MemoryControls& s, int k) {
   if (k <= 9) return clickNumbered(s, k);

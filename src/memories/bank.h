@@ -9,6 +9,9 @@ namespace caleidoscopio {
 /// loaded. 10 is no button.
 void lblSave_Click(MemoryControls& s, int k);
 
+/// Of the titles in the list, shows those of the bank shown; the others are parked.
+void showTitlesOfBank(MemoryControls& s);
+
 /// The naming box: 0 "Ok" saves under the title typed, 1 "Annulla" does not.
 void lblSalvaComb_Click(MemoryControls& s, int k);
 /// Key code 13 is "Ok"; any other only types.

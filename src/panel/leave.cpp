@@ -12,6 +12,12 @@ void leave(RunControls& s) {
   SalvaDefault(s);
   SalvaNomi(s);
   s.lblAvvertimento2.Caption = s.lblAvvertimento.Caption;
+  // The end picture keeps the colours that the user gave the form.
+  for (Frame* ground : {static_cast<Frame*>(&s.frmMiroVelTaZQ), static_cast<Frame*>(&s.FraZQ)})
+    ground->BackColor = s.form.BackColor;
+  for (Frame* words :
+       {static_cast<Frame*>(&s.lblScritteVarieC), static_cast<Frame*>(&s.lblAvvertimento2)})
+    words->ForeColor = s.lblScritteVarie[7].ForeColor;
   scaleToScreen(s.frmMiroVelTaZQ, s.endSpots, s.platform->screen);
   s.frmMiroVelTaZQ.Visible = true;
   s.form.Visible = false;

@@ -11,7 +11,7 @@ struct RunControls : virtual SequencerControls, virtual BreakControls, virtual M
   Group endGroup;
   OneLabel lblAvvertimento2{endGroup, "lblAvvertimento2"};
   OneLabel lblZQ{endGroup, "lblZQ"};
-  OneLabel lblScritteVarieC{endGroup, "lblScritteVarieC"};
+  OneLabel lblScritteVarieC{endGroup, "lblScritteVarieC", Caption{"Caleidoscopio"}};
 };
 
 }  // namespace caleidoscopio

@@ -9,7 +9,8 @@ namespace caleidoscopio {
 /// How a control of the panels presents itself. The same kind always looks the same.
 enum class Look : std::uint8_t {
   Ground,   ///< a frame
-  Heading,  ///< bare letters on what lies behind
+  Title,    ///< bare letters in the middle, through which a click goes
+  Heading,  ///< bare letters at the left, on what lies behind
   Display,  ///< shows, takes no press
   Choice,   ///< one of a row, or a toggle
   Stepper,  ///< moves a value

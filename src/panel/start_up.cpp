@@ -3,6 +3,7 @@
 #include <array>
 #include <cstdio>
 
+#include "memories/bank.h"
 #include "memories/memory_files.h"
 #include "mosaic/index_map.h"
 #include "mosaic/tools.h"
@@ -30,6 +31,7 @@ void Form_Load(RunControls& s) {
   s.lblScritteVarie[9].Caption = creditLine(time.year);
   CaricaDefault(s);
   CaricaNomi(s);
+  showTitlesOfBank(s);
   s.lblNomefile.Caption = "Default";
   s.lblSelez.Caption = "Def";
   for (int i = 1; i <= cellCount; ++i) s.lblMiro2[i].BackColor = s.lblMiro[i].BackColor;

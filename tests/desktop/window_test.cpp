@@ -89,8 +89,8 @@ TEST(Window, EveryPlacedControlThatTakesAPressHasAToolTip) {
     const std::string name = control->objectName().toStdString();
     // The pattern buttons tell on the line below them what they are.
     if (name.starts_with("lblBreakMode(")) continue;
-    EXPECT_TRUE(!control->isButton() || !toolTipOf(e).isEmpty()) << name;
-    EXPECT_EQ(control->toolTip(), toolTipOf(e)) << name;
+    EXPECT_TRUE(!control->isButton() || !toolTipOf(rig.s(), e).isEmpty()) << name;
+    EXPECT_EQ(control->toolTip(), toolTipOf(rig.s(), e)) << name;
   }
 }
 

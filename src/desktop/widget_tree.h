@@ -1,0 +1,65 @@
+#pragma once
+
+#include <QLineEdit>
+#include <map>
+#include <span>
+#include <utility>
+#include <vector>
+
+#include "desktop/control_widget.h"
+
+namespace caleidoscopio {
+
+/// The library's line edit as the naming box: what is typed goes into the store at once, Enter is
+/// the key that the instrument hears, and every key stays in the box.
+class NamingBox : public QLineEdit {
+  Q_OBJECT
+ public:
+  NamingBox(const Spot& spot, Driver& driver, QWidget* parent);
+  void mirror();
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+  void showEvent(QShowEvent* event) override;
+  void hideEvent(QHideEvent* event) override;
+
+ private:
+  TextBox& box() const;
+  Spot spot_;
+  Driver& driver_;
+};
+
+/// The picture of the end: the field as it stood, its square rings bent into circles.
+class ImageWidget : public QWidget {
+  Q_OBJECT
+ public:
+  ImageWidget(const Spot& spot, const Driver& driver, QWidget* parent);
+  void mirror();
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  Spot spot_;
+  const Driver& driver_;
+};
+
+/// The widgets of one window: one for each spot, under the widget of its parent.
+class WidgetTree {
+ public:
+  /// `root` shows the control that the outermost spots are placed on.
+  void build(QWidget& root, Element rootControl, std::span<const Spot> spots, Hand& hand,
+             Driver& driver);
+  /// Tells every widget to show what is there.
+  void mirror();
+
+ private:
+  using Key = std::pair<const Control*, int>;
+  std::map<Key, QWidget*> parents_;
+  std::vector<GroundWidget*> grounds_;
+  std::vector<ControlWidget*> controls_;
+  std::vector<NamingBox*> boxes_;
+  std::vector<ImageWidget*> images_;
+};
+
+}  // namespace caleidoscopio
