@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstdio>
+#include <string>
 
 #include "memories/bank.h"
 #include "memories/memory_files.h"
@@ -27,7 +28,8 @@ void Form_Load(RunControls& s) {
   s.platform->generator.seed(time);
   s.FraMemoria.Left = {105};
   s.FraMemoria.Top = {8505};
-  s.lblDir.Caption = s.platform->files.root();
+  // With no root found the folder stays as it was.
+  if (std::string root = s.platform->files.root(); !root.empty()) s.lblDir.Caption = root;
   s.lblScritteVarie[9].Caption = creditLine(time.year);
   CaricaDefault(s);
   CaricaNomi(s);
