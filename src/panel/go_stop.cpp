@@ -113,8 +113,8 @@ void startSwitched(RunControls& s, int k) {
       s.TmrBrk.setEnabled(true);
       return;
     default:
-      // The sequencer brings timer A with it, whatever the step to come says of A; only a memory
-      // could ever put "OFF" into the table's heading.
+      // The sequencer brings timer A with it, whatever the step to come says of A. Row 0 is in no
+      // programme and in no memory, so only a script ever finds it at "OFF".
       if (s.lblTmrA[0].Caption == "OFF") {
         s.TmrSequencer.setEnabled(false);
       } else {

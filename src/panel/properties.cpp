@@ -3,7 +3,6 @@
 #include <array>
 #include <charconv>
 #include <cmath>
-#include <cstdio>
 #include <limits>
 
 namespace caleidoscopio {
@@ -113,9 +112,11 @@ std::optional<double> fraction(std::string_view text) {
 }
 
 std::string fractionText(double number) {
+  // Not by way of printf, whose decimal point is the locale's: a window's toolkit may set one.
   std::array<char, 400> digits{};
-  const int length = std::snprintf(digits.data(), digits.size(), "%.6f", number);
-  std::string text(digits.data(), static_cast<std::size_t>(length));
+  const auto [end, error] = std::to_chars(digits.data(), digits.data() + digits.size(), number,
+                                          std::chars_format::fixed, 6);
+  std::string text(digits.data(), error == std::errc() ? end : digits.data());
   text.erase(text.find_last_not_of('0') + 1);
   if (text.ends_with('.')) text.pop_back();
   return text == "-0" ? "0" : text;
