@@ -1,0 +1,14 @@
+#pragma once
+
+#include "compare.h"
+
+namespace caleidoscopio::bench {
+
+// Each engine adds its rows to the table.
+
+/// One tick of each of the 24 shifts.
+void addShiftRows(Rows& rows);
+/// Loading a memory, beside reading the file and splitting its lines.
+void addMemoryRows(Rows& rows);
+
+}  // namespace caleidoscopio::bench
