@@ -1,40 +1,33 @@
 #include <benchmark/benchmark.h>
 
 #include <filesystem>
-#include <fstream>
 #include <memory>
-#include <sstream>
+#include <random>
 #include <string_view>
 
 #include "field.h"
 #include "memories/memory_files.h"
+#include "platform/disk_files.h"
 #include "rows.h"
 
 namespace caleidoscopio::bench {
 
 namespace {
 
-std::string readFile(const std::string& path) {
-  std::ifstream in(path, std::ios::binary | std::ios::ate);
-  std::string text(static_cast<std::size_t>(in.tellg()), '\0');
-  in.seekg(0);
-  in.read(text.data(), static_cast<std::streamsize>(text.size()));
-  return text;
+std::string fileText(const std::string& path) {
+  std::string why;
+  return readFile(path, why).value_or("");
 }
 
 /// A folder that goes when the program ends.
-struct Folder : TextFiles {
+struct Folder {
   Folder() { std::filesystem::create_directories(path + "/Miro-Vel-Ta/Save"); }
-  ~Folder() override { std::filesystem::remove_all(path); }
-  std::string root() override { return path + "/"; }
-  std::optional<std::string> read(const std::string& file, std::string&) override {
-    return readFile(file);
-  }
-  bool write(const std::string& file, const std::string& text, std::string&) override {
-    std::ofstream(file, std::ios::binary) << text;
-    return true;
-  }
-  std::string path = (std::filesystem::temp_directory_path() / "caleidoscopio-bench").string();
+  ~Folder() { std::filesystem::remove_all(path); }
+  Folder(const Folder&) = delete;
+  Folder& operator=(const Folder&) = delete;
+  std::string path = (std::filesystem::temp_directory_path() /
+                      ("caleidoscopio-bench-" + std::to_string(std::random_device()())))
+                         .string();
 };
 
 std::vector<std::string_view> split(std::string_view text) {
@@ -50,10 +43,11 @@ std::vector<std::string_view> split(std::string_view text) {
 }
 
 struct Sides {
-  Folder files;
+  Folder folder;
+  DiskFiles files = DiskFiles::under(folder.path);
   Rig rig{files};
   BareField bare;
-  std::string memory = files.root() + "Miro-Vel-Ta/Save/0.txt";
+  std::string memory = folder.path + "/Miro-Vel-Ta/Save/0.txt";
   std::size_t lines = 0;
 };
 
@@ -63,13 +57,12 @@ void addMemoryRows(Rows& rows) {
   const auto sides = std::make_shared<Sides>();
   Store& s = sides->rig.s;
   paint(s, sides->bare, false);
-  s.lblDir.Caption = sides->files.root();
   s.lblSelez.Caption = "0";
   SalvaMemoria(s);
-  const std::string written = readFile(sides->memory);
+  const std::string written = fileText(sides->memory);
   rows.push_back({"load a memory", 4.0, [&s] { CaricaMemoria(s); },
                   [sides] {
-                    const std::string text = readFile(sides->memory);
+                    const std::string text = fileText(sides->memory);
                     const auto lines = split(text);
                     benchmark::DoNotOptimize(lines.data());
                     sides->lines = lines.size();
@@ -77,7 +70,7 @@ void addMemoryRows(Rows& rows) {
                   [sides, &s, written] {
                     // What was read is what stands in the file, line for line.
                     SalvaMemoria(s);
-                    return sides->lines == 1869 && readFile(sides->memory) == written;
+                    return sides->lines == 1869 && fileText(sides->memory) == written;
                   }});
 }
 
