@@ -58,7 +58,7 @@ TEST(Scaling, OnAScreenOfTheDesignsSizeNothingMoves) {
   EXPECT_EQ(fit.font, 1);
   Rig rig;
   const std::vector<Placed> before = placesOf(rig.s);
-  scaleToScreen(rig.s);
+  scaleToScreen(rig.s.form, rig.s.spots, rig.platform.screen);
   const std::vector<Placed> after = placesOf(rig.s);
   for (std::size_t n = 0; n < before.size(); ++n) {
     EXPECT_EQ(before[n].left, after[n].left);
