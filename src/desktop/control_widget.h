@@ -23,6 +23,8 @@ class ControlWidget : public QWidget {
   bool isButton() const { return takesPress_; }
   /// The caption as it is shown: whole, wrapped by words where it must.
   bool showsWholeCaption() const;
+  /// The size of its letters in device-independent pixels.
+  double letterPixels() const { return points_ * 96 / 72; }
 
  protected:
   void paintEvent(QPaintEvent* event) override;
