@@ -18,7 +18,7 @@ lblValAttivo, lblNumAttivo, lblSfondoAttivo, lblSfondoMem, lblMemoCol, lblValCli
 lblSelSfondo 0..3, lblClickSfondo, lblComCol 0..8, lblCopia 1..4, lblBack, lblProva, lblProva1,
 lblProva2, Label3, Label7, Command1, cmdDisegnaRettangoli2,
 cmdGoTimer, cmdOnOff 0..5, lblHide, lblSpiaBreak, lblMode 1..2, lblVelo 1..3, lblPiùTmr 1..3,
-lblMenoTmr 1..3, lblIndexTmr, lblScritteVarie 0..19, lblDir,
+lblMenoTmr 1..3, lblIndexTmr, lblScritteVarie 0..49, lblDir,
 lblSposta 0..24, lblOraria, lblCent, lblShift, lblSomma, lblIntervalA 0..12, lblSyncro,
 lblTransf 0..12, lblInterv 1..12, lblCrea 0..11, lblAngoli, lblAngolo 0..21, lblColSCelto,
 lblLung 1..8, lblLunghez 0..8, lblColNumber, lblCasel, lblCarat, lblCarat2, lblProvaCambioCol,

@@ -1,6 +1,5 @@
 echo dump | "$console" --root root >dump
-echo "= lines, and the first of each kind of control"
-wc -l <dump
+echo "= the properties of each kind of control"
 for name in form 'FraPannello(0)' lblHide TxtNomeMemoria ImgZQ ShpContour TmrGoA; do
   grep -F "$name." dump | grep "^$name\\." | cut -d' ' -f1
 done
