@@ -242,7 +242,7 @@ void lblNOrdine_Click(SequencerControls& s, int) {
 }
 
 void lblDisattiva_Click(SequencerControls& s, int k) {
-  const bool out = s.lblDisattiva[k].BackColor == colours::unselected;
+  const bool out = s.lblDisattiva[k].BackColor != colours::selected;
   s.lblDisattiva[k].BackColor = out ? colours::selected : colours::unselected;
   for (int row = 1; row <= rowCount; ++row) cellOf(s, static_cast<Column>(k), row).Enabled = !out;
 }
