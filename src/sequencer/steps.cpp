@@ -81,15 +81,14 @@ const Column* editedColumn(const SequencerControls& s) {
 
 void TmrSequencer_Timer(SequencerControls& s) {
   const std::int64_t row = number(s, s.lblSeq[4]);
-  const std::int64_t last = number(s, s.lblSeq[5]);
-  const std::int64_t previous = row == 1 ? last : row - 1;
+  const std::int64_t previous = row == 1 ? number(s, s.lblSeq[5]) : row - 1;
   for (const Column column : columns3) cellOf(s, column, previous).BackColor = colours::inRange;
   s.lblNOrdine[previous].BackColor = colours::unselected;
   for (const Column column : columns3) cellOf(s, column, row).BackColor = colours::selected;
   s.lblNOrdine[row].BackColor = colours::selected;
   for (const Column column : columns3) runColumn(s, column, row);
   // Between two steps the cursor is on the step to come, the marks on the step in force.
-  s.lblSeq[4].Caption = row + 1 <= last ? text(row + 1) : "1";
+  s.lblSeq[4].Caption = row + 1 <= number(s, s.lblSeq[5]) ? text(row + 1) : "1";
 }
 
 }  // namespace caleidoscopio

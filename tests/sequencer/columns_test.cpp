@@ -1,6 +1,7 @@
+#include "sequencer/columns.h"
+
 #include <gtest/gtest.h>
 
-#include "sequencer/columns.h"
 #include "sequencer/sequencer_rig.h"
 
 namespace caleidoscopio::test {
