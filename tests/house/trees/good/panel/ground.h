@@ -1,0 +1,2 @@
+#pragma once
+// throw and catch may stand in a comment

@@ -1,0 +1,3 @@
+void end() {
+  throw 1;
+}
