@@ -134,6 +134,14 @@ TEST_F(Timers, TheNextPeriodBeginsBeforeTheHandlerSoThatWhatItWritesHolds) {
   EXPECT_EQ(fired, (Log{"a100", "a130", "a160"}));
 }
 
+TEST_F(Timers, WithinItsHandlerATimerIsAlreadyDueAgainAPeriodLater) {
+  std::uint64_t due = 0;
+  then = [&](int) { due = time.nextDue(); };
+  a.setEnabled(true);
+  time.advance(100);
+  EXPECT_EQ(due, 200U);
+}
+
 TEST_F(Timers, AHandlerCanTurnItsOwnTimerOff) {
   then = [this](int) { a.setEnabled(false); };
   a.setEnabled(true);
