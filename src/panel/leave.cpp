@@ -18,7 +18,8 @@ void leave(RunControls& s) {
   for (Frame* words :
        {static_cast<Frame*>(&s.lblScritteVarieC), static_cast<Frame*>(&s.lblAvvertimento2)})
     words->ForeColor = s.lblScritteVarie[7].ForeColor;
-  scaleToScreen(s.frmMiroVelTaZQ, s.endSpots, s.platform->screen);
+  // Scaling multiplies what it finds: a second "Esc" must not fit the picture once more.
+  if (!s.frmMiroVelTaZQ.Visible) scaleToScreen(s.frmMiroVelTaZQ, s.endSpots, s.platform->screen);
   s.frmMiroVelTaZQ.Visible = true;
   s.form.Visible = false;
   for (Control* timer : s.timerGroup.controls())
