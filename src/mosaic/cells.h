@@ -22,10 +22,16 @@ inline void copyCell(Frame& to, const Frame& from) {
   copyColours(to, from);
 }
 
+/// The triple, its Caption only if `captions` says so: for engines that ask showsDigits() once and
+/// not at each of many cells.
+inline void copyIf(bool captions, Frame& to, const Frame& from) {
+  if (captions) to.Caption = from.Caption;
+  copyColours(to, from);
+}
+
 /// The triple, its Caption only while digits are shown.
 inline void copyShown(const MosaicControls& s, Frame& to, const Frame& from) {
-  if (showsDigits(s)) to.Caption = from.Caption;
-  copyColours(to, from);
+  copyIf(showsDigits(s), to, from);
 }
 
 /// Display cell i takes design cell i.

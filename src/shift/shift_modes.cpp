@@ -51,11 +51,6 @@ constexpr ShiftMode modes[] = {
 };
 static_assert(std::size(modes) == 24);
 
-void copyIf(bool captions, Frame& to, const Frame& from) {
-  if (captions) to.Caption = from.Caption;
-  copyColours(to, from);
-}
-
 void copyQuartet(MosaicControls& s, std::int16_t to, const Frame& from, bool captions) {
   Label& leader = s.lblMiro[to];
   copyIf(captions, leader, from);
