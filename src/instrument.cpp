@@ -1,6 +1,7 @@
 #include "instrument.h"
 
 #include "colours/random_active.h"
+#include "frame/frame.h"
 #include "memories/bank.h"
 #include "mosaic/cells.h"
 #include "mosaic/painting.h"
@@ -94,6 +95,15 @@ void tieHandlers(Store& s) {
       {s.lblOraria, 0, 0, MouseUp, on(s, lblOraria_MouseUp)},
       {s.lblSyncro, 0, 0, Click, on(s, lblSyncro_Click)},
       {s.TmrGoA, 0, 0, Tick, on(s, TmrGoA_Timer)},
+      // frame
+      {s.TmrGoC, 0, 0, Tick, on(s, TmrGoC_Timer)},
+      {s.lblCorniceOpzio, 1, 2, MouseDown, on(s, lblCorniceOpzio_MouseDown)},
+      {s.lblRandomC, 0, 0, Click, on(s, lblRandomC_Click)},
+      {s.lblRndC, 1, 2, MouseDown, on(s, lblRndC_MouseDown)},
+      {s.lblRndC, 1, 2, MouseUp, on(s, lblRndC_MouseUp)},
+      {s.TmrFrqRnd, 0, 0, Tick, on(s, TmrFrqRnd_Timer)},
+      {s.lblColCornice, 0, 0, MouseDown, on(s, lblColCornice_MouseDown)},
+      {s.lblColCornice, 0, 0, MouseUp, on(s, lblColCornice_MouseUp)},
       // colours
       {s.Command1, 0, 0, Click, on(s, ColoreCasualeAttivo)},
       // sequencer
