@@ -326,8 +326,9 @@ void placePanels(Store& s, std::span<const Panel> rows, std::vector<Spot>& spots
       assert(control && "a placed control stands in the list");
       for (int n = 0; n < row.elements.count; ++n) {
         Box box = row.box;
+        const int line = n / row.grid.columns;
         box.left += row.grid.across * (n % row.grid.columns);
-        box.top += row.grid.down * (n / row.grid.columns);
+        box.top += row.grid.down * line;
         place(spots, {{control, row.elements.first + n}, parent, row.look, panel.withField}, box,
               row.points);
       }
