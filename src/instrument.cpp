@@ -1,6 +1,8 @@
 #include "instrument.h"
 
+#include "colours/changes.h"
 #include "colours/random_active.h"
+#include "colours/steps.h"
 #include "frame/frame.h"
 #include "memories/bank.h"
 #include "mosaic/cells.h"
@@ -105,6 +107,16 @@ void tieHandlers(Store& s) {
       {s.lblColCornice, 0, 0, MouseDown, on(s, lblColCornice_MouseDown)},
       {s.lblColCornice, 0, 0, MouseUp, on(s, lblColCornice_MouseUp)},
       // colours
+      {s.lblCambioCol, 0, 11, Click, on(s, lblCambioCol_Click)},
+      {s.lblCambioCol, 0, 11, MouseDown, on(s, lblCambioCol_MouseDown)},
+      {s.lblCambioCol, 0, 11, MouseUp, on(s, lblCambioCol_MouseUp)},
+      {s.lblNSc, 0, 0, MouseDown, on(s, lblNSc_MouseDown)},
+      {s.lblNSc, 0, 0, MouseUp, on(s, lblNSc_MouseUp)},
+      {s.lblTmrRndCol, 1, 3, MouseDown, on(s, lblTmrRndCol_MouseDown)},
+      {s.lblTmrRndCol, 1, 3, MouseUp, on(s, lblTmrRndCol_MouseUp)},
+      {s.TmrRndColor, 0, 0, Tick, on(s, TmrRndColor_Timer)},
+      {s.TmrScorriRndCol, 0, 0, Tick, on(s, TmrScorriRndCol_Timer)},
+      {s.TmrGoD, 0, 0, Tick, on(s, TmrGoD_Timer)},
       {s.Command1, 0, 0, Click, on(s, ColoreCasualeAttivo)},
       // sequencer
       {s.TmrSequencer, 0, 0, Tick, on(s, TmrSequencer_Timer)},
