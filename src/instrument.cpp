@@ -16,6 +16,11 @@
 #include "sequencer/editing.h"
 #include "sequencer/steps.h"
 #include "shift/shift.h"
+#include "transform/aggrega.h"
+#include "transform/angoli.h"
+#include "transform/crea_disegno.h"
+#include "transform/lineare.h"
+#include "transform/scambia.h"
 #include "transform/transform.h"
 
 namespace caleidoscopio {
@@ -84,7 +89,13 @@ void tieHandlers(Store& s) {
       {s.lblSfondo, 0, 6, Click, on(s, lblSfondo_Click)},
       {s.lblSelSfondo, 0, 2, Click, on(s, lblSelSfondo_Click)},
       {s.lblComCol, 0, 4, MouseDown, on(s, lblComCol_MouseDown)},
-      {s.lblComCol, 6, 8, MouseDown, on(s, lblComCol_MouseDown)},
+      // The tool of a lower folder sets off the design of a higher one.
+      {s.lblComCol, 6, 6, MouseDown,
+       [&s](int k) {
+         lblComCol_MouseDown(s, k);
+         CreaDisegno(s);
+       }},
+      {s.lblComCol, 7, 8, MouseDown, on(s, lblComCol_MouseDown)},
       {s.lblComCol, 2, 3, MouseUp, on(s, lblComCol_MouseUp)},
       {s.lblComCol, 6, 6, MouseUp, on(s, lblComCol_MouseUp)},
       {s.lblBack, 0, 0, MouseDown, on(s, lblBack_MouseDown)},
@@ -118,6 +129,22 @@ void tieHandlers(Store& s) {
       {s.TmrScorriRndCol, 0, 0, Tick, on(s, TmrScorriRndCol_Timer)},
       {s.TmrGoD, 0, 0, Tick, on(s, TmrGoD_Timer)},
       {s.Command1, 0, 0, Click, on(s, ColoreCasualeAttivo)},
+      // transform
+      {s.lblTransf, 1, 12, Click, on(s, lblTransf_Click)},
+      {s.TmrGoB, 0, 0, Tick, on(s, TmrGoB_Timer)},
+      {s.lblCrea, 1, 11, MouseDown, on(s, lblCrea_MouseDown)},
+      {s.lblCrea, 1, 11, MouseUp, on(s, lblCrea_MouseUp)},
+      {s.TmrCrea, 0, 0, Tick, on(s, TmrCrea_Timer)},
+      {s.lblAngoli, 0, 0, Click, on(s, lblAngoli_Click)},
+      {s.lblLung, 1, 8, Click, on(s, lblLung_Click)},
+      {s.lblColNumber, 0, 0, MouseDown, on(s, lblColNumber_MouseDown)},
+      {s.lblColNumber, 0, 0, MouseUp, on(s, lblColNumber_MouseUp)},
+      {s.lblMinMax, 1, 5, MouseDown, on(s, lblMinMax_MouseDown)},
+      {s.lblOpzAggrega, 0, 1, MouseDown, on(s, lblOpzAggrega_MouseDown)},
+      {s.lblOpzAggrega, 0, 1, MouseUp, on(s, lblOpzAggrega_MouseUp)},
+      {s.lblAgg2, 0, 0, Click, on(s, lblAgg2_Click)},
+      {s.lblNScambi, 0, 0, MouseDown, on(s, lblNScambi_MouseDown)},
+      {s.lblNScambi, 0, 0, MouseUp, on(s, lblNScambi_MouseUp)},
       // sequencer
       {s.TmrSequencer, 0, 0, Tick, on(s, TmrSequencer_Timer)},
       {s.lblSeq, 1, 3, MouseDown, on(s, lblSeq_MouseDown)},

@@ -21,14 +21,27 @@ constexpr BrushBlock brushBlocks[] = {{1, fieldEnd, 4, 0}, {325, 364, 4, 0},
                                       {365, 400, 4, 36},   {401, 436, 4, -36},
                                       {437, 440, 4, 0},    {centre, centre, 1, 0}};
 
-void brush(MosaicControls& s, int i, const Frame& colours, const std::string& digit) {
+enum class Reach { Block, Quartet };
+
+void rewrite(MosaicControls& s, int i, Reach reach, const Frame& colours,
+             const std::string& digit) {
   for (const BrushBlock& block : brushBlocks) {
     if (i < block.first || i > block.last) continue;
     const int base = baseOf(i);
     for (int m = 0; m < block.members; ++m) paintBothPlanes(s, base + m, colours, digit);
-    if (block.second == 0) continue;
+    if (block.second == 0 || reach == Reach::Quartet) continue;
     for (int m = 0; m < block.members; ++m)
       paintBothPlanes(s, base + block.second + m, colours, digit);
+  }
+}
+
+void brush(MosaicControls& s, int i, Reach reach) {
+  // Asked once, before anything is written: the cell clicked decides for its whole quartet.
+  if (s.lblMiro[i].BackColor == s.lblValAttivo.BackColor) {
+    const std::int64_t ground = number(s, s.lblSfondoAttivo);
+    rewrite(s, i, reach, s.lblSfondo[ground], s.lblValore[ground].Caption);
+  } else {
+    rewrite(s, i, reach, s.lblValAttivo, s.lblNumAttivo.Caption);
   }
 }
 
@@ -77,13 +90,12 @@ void lblMiro_Click(MosaicControls& s, int i) {
     rectangleCorner(s, i);
     return;
   }
-  // Asked once, before anything is written: the cell clicked decides for its whole quartet.
-  if (s.lblMiro[i].BackColor == s.lblValAttivo.BackColor) {
-    const std::int64_t ground = number(s, s.lblSfondoAttivo);
-    brush(s, i, s.lblSfondo[ground], s.lblValore[ground].Caption);
-  } else {
-    brush(s, i, s.lblValAttivo, s.lblNumAttivo.Caption);
-  }
+  brush(s, i, Reach::Block);
+}
+
+void brushQuartet(MosaicControls& s, int i) {
+  s.lblIndex.Caption = text(i);
+  brush(s, i, Reach::Quartet);
 }
 
 void lblSfondo_Click(MosaicControls& s, int k) {

@@ -1,6 +1,9 @@
 #pragma once
 
+#include <functional>
+#include <ostream>
 #include <random>
+#include <string>
 
 #include "mosaic/index_map.h"
 #include "support/rig.h"
@@ -75,14 +78,21 @@ inline void scatter(Store& s, SeededDraws& draws) {
   }
 }
 
-/// Both planes in all attributes, to be compared.
-inline std::string picture(Store& s) {
-  std::string all;
+/// Cells of both planes in all attributes, to be compared.
+struct Picture {
+  std::string cells;
+  bool operator==(const Picture&) const = default;
+};
+inline void PrintTo(const Picture& picture, std::ostream* out) {
+  *out << "a picture that hashes to " << std::hash<std::string>()(picture.cells);
+}
+inline Picture picture(Store& s, int first = 1) {
+  Picture all;
   const auto add = [&all](const Frame& f) {
-    all += f.Caption + '/' + std::to_string(f.BackColor.value) + '/' +
-           std::to_string(f.ForeColor.value) + ' ';
+    all.cells += f.Caption + '/' + std::to_string(f.BackColor.value) + '/' +
+                 std::to_string(f.ForeColor.value) + ' ';
   };
-  for (int i = 1; i <= cellCount; ++i) {
+  for (int i = first; i <= cellCount; ++i) {
     add(s.lblMiro[i]);
     add(s.lblMiro2[i]);
   }
@@ -98,6 +108,11 @@ inline void paintQuartet(Store& s, int leader, int k) {
     }
     s.lblMiro2[leader + m].Caption = s.lblValore[k].Caption;
   }
+}
+
+/// The same for the whole field.
+inline void paintField(Store& s, int k) {
+  for (int i = 1; i <= fieldEnd; i += 4) paintQuartet(s, i, k);
 }
 
 }  // namespace caleidoscopio::test
