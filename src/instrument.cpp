@@ -1,5 +1,8 @@
 #include "instrument.h"
 
+#include "break/break_options.h"
+#include "break/break_speeds.h"
+#include "break/controller.h"
 #include "colours/changes.h"
 #include "colours/random_active.h"
 #include "colours/steps.h"
@@ -117,6 +120,22 @@ void tieHandlers(Store& s) {
       {s.TmrFrqRnd, 0, 0, Tick, on(s, TmrFrqRnd_Timer)},
       {s.lblColCornice, 0, 0, MouseDown, on(s, lblColCornice_MouseDown)},
       {s.lblColCornice, 0, 0, MouseUp, on(s, lblColCornice_MouseUp)},
+      // break
+      {s.Command7, 0, 0, Click, on(s, Command7_Click)},
+      {s.Command8, 0, 0, Click, on(s, Command8_Click)},
+      {s.TmrBreak, 0, 0, Tick, on(s, TmrBreak_Timer)},
+      {s.TmrBrk, 0, 0, Tick, on(s, TmrBrk_Timer)},
+      {s.TmrAspetta, 0, 0, Tick, on(s, TmrAspetta_Timer)},
+      {s.lblBreakMode, 1, 21, Click, on(s, lblBreakMode_Click)},
+      {s.lblBreakMode, 14, 24, MouseDown, on(s, lblBreakMode_MouseDown)},
+      {s.lblBreakMode, 14, 24, MouseUp, on(s, lblBreakMode_MouseUp)},
+      {s.lblBreakMode, 0, 26, MouseMove, on(s, lblBreakMode_MouseMove)},
+      {s.lblTmrBreak, 1, 2, MouseDown, on(s, lblTmrBreak_MouseDown)},
+      {s.lblTmrBreak, 1, 2, MouseUp, on(s, lblTmrBreak_MouseUp)},
+      {s.TmrVeloBreak, 0, 0, Tick, on(s, TmrVeloBreak_Timer)},
+      {s.lblBrk, 1, 3, MouseDown, on(s, lblBrk_MouseDown)},
+      {s.lblBrk, 1, 3, MouseUp, on(s, lblBrk_MouseUp)},
+      {s.TmrScorriBrk, 0, 0, Tick, on(s, TmrScorriBrk_Timer)},
       // colours
       {s.lblCambioCol, 0, 11, Click, on(s, lblCambioCol_Click)},
       {s.lblCambioCol, 0, 11, MouseDown, on(s, lblCambioCol_MouseDown)},
