@@ -125,7 +125,6 @@ void lblBreakMode_Click(BreakControls& s, int i) {
 }
 
 void lblBreakMode_MouseDown(BreakControls& s, int i) {
-  if (i != 14 && i != 18 && i != 22 && i != 23 && i != 24) return;
   Label& option = s.lblBreakMode[i];
   option.BackColor = colours::pressed;
   if (i == 22 || i == 23) stepWait(s.lblBreakMode[16], i == 23);
@@ -133,8 +132,7 @@ void lblBreakMode_MouseDown(BreakControls& s, int i) {
 }
 
 void lblBreakMode_MouseUp(BreakControls& s, int i) {
-  if (i == 14 || i == 18 || i == 24) s.lblBreakMode[i].BackColor = colours::unselected;
-  if (i == 22 || i == 23) s.lblBreakMode[i].BackColor = colours::idle;
+  s.lblBreakMode[i].BackColor = i == 22 || i == 23 ? colours::idle : colours::unselected;
 }
 
 void lblBreakMode_MouseMove(BreakControls& s, int i) {

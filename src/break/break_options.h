@@ -5,7 +5,7 @@
 namespace caleidoscopio {
 
 /// The options in lblBreakMode: 1 to 12 the patterns (the last one selected stays), 13 all of them
-/// or Immediato alone, 14 direction, 18 kind, 19 new design, 21 repeat. Others do nothing.
+/// or Immediato alone, 14 direction, 18 kind, 19 new design, 21 repeat.
 void lblBreakMode_Click(BreakControls& s, int i);
 /// 14, 18: flash. 22, 23: one step of the wait down or up, with no repeat. 24: flash, and the order
 /// of patterns changes between "Seq" and "Rnd".

@@ -39,7 +39,7 @@ bool enabled(const Control& control, int index) {
 TEST(BreakLong, NoWalkLeavesTheButtonsLockedWithoutABreakOnItsWay) {
   LongRun run;
   Store& s = run.s;
-  for (const char* name : {"0", "7", "42", "99", "A", "E"}) {
+  for (const char* name : {"A", "B", "C", "D", "E"}) {
     s.lblSelez.Caption = name;
     SalvaMemoria(s);
   }
@@ -76,6 +76,12 @@ TEST(BreakLong, NoWalkLeavesTheButtonsLockedWithoutABreakOnItsWay) {
     const int index = control.first() + static_cast<int>(below(static_cast<std::size_t>(span)));
     if (!enabled(control, index)) continue;
     if (&control == &s.lblComandiVari && index == 2) continue;
+    // The box for a title: out of reach while hidden, and of no use once a preset was loaded.
+    const bool ofBox = &control == &s.lblSalvaComb || &control == &s.TxtNomeMemoria;
+    const bool preset = "A" <= s.lblSelez.Caption;
+    if (ofBox && (preset || !s.FraMemoria.Visible)) continue;
+    // "Canc" makes a step of Timer B that ends the run when the sequencer reaches it.
+    if (&control == &s.lblSeq && index == 6) continue;
     const bool wasLocked = !s.Command7.Enabled;
     ASSERT_NO_THROW({
       control.raise(touch.event, index);
@@ -94,6 +100,7 @@ TEST(BreakLong, NoWalkLeavesTheButtonsLockedWithoutABreakOnItsWay) {
     ASSERT_LE(std::stoi(s.lblBreak.Caption), 22) << "event " << n;
   }
   EXPECT_GT(breaks, 100);
+  RecordProperty("breaks", breaks);
 
   // And the Break that may be on its way at the end does come to its end.
   if (s.cmdGoTimer.BackColor == colours::running) click(s.cmdGoTimer);
