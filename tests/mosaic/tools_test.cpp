@@ -63,7 +63,7 @@ TEST_F(Tools, ThePaletteModeCyclesThroughItsFourWords) {
 }
 
 TEST_F(Tools, MomentaryToolsFlashWhileHeld) {
-  rig.generator.otherwise = 0.5F;  // element 6 makes a design
+  generator.otherwise = 0.5F;  // element 6 makes a design
   for (const int k : {2, 3, 6}) {
     press(s.lblComCol, k);
     EXPECT_EQ(s.lblComCol[k].BackColor, colours::pressed) << k;
