@@ -54,8 +54,8 @@ void paintRectangleQuartet(MosaicControls& s, std::int64_t leader) {
 void fillRectangle(MosaicControls& s, std::int64_t from, std::int64_t to) {
   const auto row = [](std::int64_t i) { return (i - 1) / 36; };
   const auto column = [](std::int64_t i) { return (i - 1) % 36 / 4; };
-  const auto [top, bottom] = std::minmax(row(from), row(to));
-  const auto [left, right] = std::minmax(column(from), column(to));
+  const auto [top, bottom] = std::minmax({row(from), row(to)});
+  const auto [left, right] = std::minmax({column(from), column(to)});
   for (std::int64_t c = left; c <= right; ++c)
     for (std::int64_t r = top; r <= bottom; ++r) paintRectangleQuartet(s, 1 + 36 * r + 4 * c);
 }
