@@ -2,6 +2,7 @@
 
 #include "sequencer/sequencer_rig.h"
 #include "support/run_end.h"
+#include "support/snapshot.h"
 
 namespace caleidoscopio::test {
 namespace {
@@ -55,6 +56,61 @@ TEST_F(Steps, EachOfThe24ShiftCodesSetsDirectionAndFamilyAndTurnsTimerAOn) {
       EXPECT_EQ(s.TmrGoA.Interval(), 5000 + family) << code;
       EXPECT_EQ(s.lblVelo[1].Caption, text(5000 + family)) << code;
     }
+}
+
+TEST_F(Steps, EachOfTheSixModesIsChosenByItsNumberWithItsPanelAndSpeed) {
+  struct Mode {
+    const char* name;
+    int panel;
+  };
+  const Mode modes[] = {{"Crea Disegno", 1}, {"Angoli", 7},   {"Lineare", 9},
+                        {"Traccia", 3},      {"Aggrega", 10}, {"Scambia", 2}};
+  for (int mode = 1; mode <= 6; ++mode) {
+    s.lblInterv[mode].Caption = text(5000 + mode);
+    runB("OFF");
+    runB(text(mode));
+    EXPECT_EQ(s.lblTransf[0].Caption, text(mode));
+    EXPECT_EQ(s.lblMode[2].Caption, modes[mode - 1].name);
+    for (int i = 1; i <= 12; ++i) {
+      EXPECT_EQ(s.lblTransf[i].BackColor, i == mode ? colours::selected : colours::unselected)
+          << mode;
+      EXPECT_EQ(s.FraTransf[i].Visible, i == modes[mode - 1].panel) << mode;
+    }
+    EXPECT_TRUE(switchedIn(2)) << mode;
+    EXPECT_TRUE(s.TmrGoB.Enabled()) << mode;
+    EXPECT_EQ(s.TmrGoB.Interval(), 5000 + mode);
+  }
+}
+
+// The spare elements 7 to 12 are buttons like the others, but no mode is behind them.
+TEST_F(Steps, ANumberFrom7To12TurnsTimerBOnWithNoModeBehindIt) {
+  for (int spare = 7; spare <= 12; ++spare) {
+    runB("2");
+    runB("OFF");
+    runB(text(spare));
+    EXPECT_EQ(s.lblTransf[0].Caption, text(spare));
+    EXPECT_EQ(s.lblTransf[spare].BackColor, colours::selected);
+    EXPECT_EQ(s.lblTransf[2].BackColor, colours::unselected);
+    EXPECT_EQ(s.lblMode[2].Caption, "Angoli");
+    for (int i = 1; i <= 12; ++i) EXPECT_FALSE(s.FraTransf[i].Visible) << spare;
+    EXPECT_TRUE(s.TmrGoB.Enabled()) << spare;
+    const std::string before = snapshotOf(s);
+    tick(s.TmrGoB);
+    EXPECT_EQ(snapshotOf(s), before) << spare;
+  }
+}
+
+// A mode is chosen anew at each of its steps: Timer B begins a full period with the step.
+TEST_F(Steps, AModeStepRestartsThePeriodOfTimerB) {
+  lengthIs(2);
+  cursorAt(1);
+  put(1, "OFF", "7", "OFF");
+  put(2, "OFF", "8", "OFF");
+  s.lblVelo[2].Caption = "1500";
+  s.time.advance(2000);
+  EXPECT_EQ(s.time.nextDue(), 3500U);
+  s.time.advance(2000);
+  EXPECT_EQ(s.time.nextDue(), 5500U);
 }
 
 TEST_F(Steps, EachOfTheNineFrameCodesWritesBothOptionsAndTurnsTimerCOn) {
