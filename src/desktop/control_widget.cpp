@@ -2,6 +2,7 @@
 
 #include <QMouseEvent>
 #include <QPainter>
+#include <algorithm>
 
 #include "desktop/looks.h"
 #include "desktop/tool_tips.h"
@@ -12,7 +13,9 @@ namespace {
 
 constexpr QRgb edgeOfPaper = 0xFFB9AE8C;  // the thin line around what stands on a panel
 
-bool bare(Look look) { return look == Look::Heading || look == Look::Title; }
+bool bare(Look look) {
+  return look == Look::Heading || look == Look::Title;
+}
 
 void prepare(QWidget& widget, const Spot& spot) {
   widget.setObjectName(QString::fromStdString(spot.element.control->nameOf(spot.element.index)));
@@ -25,6 +28,13 @@ void place(QWidget& widget, Element element) {
   const QRect box = toPixels(g);
   if (widget.geometry() != box) widget.setGeometry(box);
   if (widget.isVisibleTo(widget.parentWidget()) != g.visible) widget.setVisible(g.visible);
+}
+
+void drawFrame(QPainter& painter, const QRect& box, int line, const QColor& colour) {
+  painter.fillRect(box.x(), box.y(), box.width(), line, colour);
+  painter.fillRect(box.x(), box.bottom() + 1 - line, box.width(), line, colour);
+  painter.fillRect(box.x(), box.y(), line, box.height(), colour);
+  painter.fillRect(box.right() + 1 - line, box.y(), line, box.height(), colour);
 }
 
 }  // namespace
@@ -87,33 +97,30 @@ bool ControlWidget::showsWholeCaption() const {
 }
 
 void ControlWidget::paintBody(QPainter& painter, const QColor& ground) const {
-  const QRect edge = rect().adjusted(0, 0, -1, -1);
   painter.fillRect(rect(), ground);
+  // Lines grow with the panel, so that what is marked is seen on a large screen too.
+  const int line = std::max(1, qRound(std::min(width(), height()) / 15.0));
   switch (spot_.look) {
     case Look::Stepper:
-    case Look::Button: {
-      const bool down = back_ == colours::pressed;
-      painter.setPen(ground.lighter(down ? 100 : 115));
-      painter.drawLine(edge.topLeft() + QPoint(1, 1), edge.topRight() + QPoint(-1, 1));
-      painter.setPen(ground.darker(down ? 100 : 125));
-      painter.drawLine(edge.bottomLeft() + QPoint(1, -1), edge.bottomRight() + QPoint(-1, -1));
-      painter.setPen(ground.darker(160));
-      painter.drawRect(edge);
-      break;
-    }
-    case Look::Swatch:
-      painter.setPen(border_ ? QColor(Qt::black) : ground.darker(130));
-      painter.drawRect(edge);
-      // In use, or active: a white line inside the black one shows on every colour.
-      if (border_) {
-        painter.setPen(Qt::white);
-        painter.drawRect(edge.adjusted(1, 1, -1, -1));
+    case Look::Button:
+      drawFrame(painter, rect(), line, ground.darker(160));
+      if (back_ != colours::pressed) {
+        const QRect inner = rect().adjusted(line, line, -line, -line);
+        painter.fillRect(inner.x(), inner.y(), inner.width(), line, ground.lighter(115));
+        painter.fillRect(inner.x(), inner.bottom() + 1 - line, inner.width(), line,
+                         ground.darker(125));
       }
       break;
+    case Look::Swatch:
+      drawFrame(painter, rect(), line, border_ ? QColor(Qt::black) : ground.darker(130));
+      // In use, or active: a white line inside the black one shows on every colour.
+      if (border_) drawFrame(painter, rect().adjusted(line, line, -line, -line), line, Qt::white);
+      break;
+    case Look::Choice:
+      drawFrame(painter, rect(), line, ground.darker(145));
+      break;
     default:
-      painter.setPen(spot_.look == Look::Choice ? ground.darker(145)
-                                                : QColor::fromRgb(edgeOfPaper));
-      painter.drawRect(edge);
+      drawFrame(painter, rect(), line, QColor::fromRgb(edgeOfPaper));
       break;
   }
 }
