@@ -37,6 +37,15 @@ struct Cells {
   std::array<Colour, Count> ForeColor;
 };
 
+/// Cell `to` takes cell `from`, its caption only if captions travel.
+template <std::size_t To, std::size_t From>
+void take(Cells<To>& target, std::size_t to, const Cells<From>& source, std::size_t from,
+          bool captions = true) {
+  if (captions) target.Caption[to] = source.Caption[from];
+  target.BackColor[to] = source.BackColor[from];
+  target.ForeColor[to] = source.ForeColor[from];
+}
+
 /// What the engines read and write of the field, as plain arrays.
 struct BareField {
   Cells<442> miro;

@@ -40,6 +40,8 @@ int main(int count, char** arguments) {
   try {
     bench::Rows rows;
     bench::addShiftRows(rows);
+    bench::addTransformRows(rows);
+    bench::addColourRows(rows);
     bench::addMemoryRows(rows);
     return bench::compare(rows, options) ? 0 : 1;
   } catch (const RunEnded& end) {

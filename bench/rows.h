@@ -8,6 +8,10 @@ namespace caleidoscopio::bench {
 
 /// One tick of each of the 24 shifts.
 void addShiftRows(Rows& rows);
+/// One tick of Timer B in each of its modes but the first.
+void addTransformRows(Rows& rows);
+/// A design, and changes of colours by clicks and without.
+void addColourRows(Rows& rows);
 /// Loading a memory, beside reading the file and splitting its lines.
 void addMemoryRows(Rows& rows);
 

@@ -9,15 +9,6 @@ namespace caleidoscopio::bench {
 
 namespace {
 
-/// Cell `to` takes cell `from`, its caption only if captions travel.
-template <std::size_t To, std::size_t From>
-void take(Cells<To>& target, std::size_t to, const Cells<From>& source, std::size_t from,
-          bool captions) {
-  if (captions) target.Caption[to] = source.Caption[from];
-  target.BackColor[to] = source.BackColor[from];
-  target.ForeColor[to] = source.ForeColor[from];
-}
-
 /// The quartet of `leader` takes a cell: the leader first, then its mirrors from the leader.
 template <std::size_t From>
 void takeQuartet(BareField& field, std::size_t leader, const Cells<From>& source, std::size_t from,
