@@ -68,7 +68,7 @@ TEST_F(StepInterval, WhateverIsOnNoRungMovesByAThousand) {
        {-5, 0, 9, 11, 24, 26, 30, 999, 29501, 29999, 30500, 59500, 60001})
     EXPECT_EQ(after(value, plus), value + 1000);
   for (const std::int64_t value :
-       {-5, 0, 9, 11, 24, 26, 30, 976, 999, 1001, 1250, 1499, 30001, 30500, 60001})
+       {-5, 0, 9, 11, 24, 26, 30, 51, 110, 974, 976, 999, 1001, 1250, 1499, 30001, 30500, 60001})
     EXPECT_EQ(after(value, minus), value - 1000);
 }
 
