@@ -51,7 +51,9 @@ const Control::Tied* Control::tiedTo(Event event, int index) const {
   return nullptr;
 }
 
-bool Control::handles(Event event, int index) const { return tiedTo(event, index) != nullptr; }
+bool Control::handles(Event event, int index) const {
+  return tiedTo(event, index) != nullptr;
+}
 
 void Control::raise(Event event, int index, int argument) const {
   if (!contains(index)) outside(index);
