@@ -23,6 +23,7 @@ constexpr Command table[] = {
     {"keypress", "NAME CODE", 2, 2, runKeypress},
     {"fire", "TIMER", 1, 1, runFire},
     {"advance", "MS", 1, 1, runAdvance},
+    {"flashes", "MS", 1, 1, runFlashes},
     {"clock", "HH:MM:SS YEAR", 2, 2, runClock},
     {"draws", "R R R ...", 1, any, runDraws},
     {"seed", "N", 1, 1, runSeed},

@@ -37,6 +37,7 @@ void runFire(Session& session, const Line& line);
 // time_commands.cpp: time, chance, the screen
 void runStart(Session& session, const Line& line);
 void runAdvance(Session& session, const Line& line);
+void runFlashes(Session& session, const Line& line);
 void runClock(Session& session, const Line& line);
 void runDraws(Session& session, const Line& line);
 void runSeed(Session& session, const Line& line);

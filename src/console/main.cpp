@@ -21,6 +21,22 @@ void printHelp() {
   for (const Command& command : commands())
     std::cout << "    " << command.name << (command.usage.empty() ? "" : " ") << command.usage
               << '\n';
+  std::cout
+      << "\n'flashes' goes on for MS milliseconds as 'advance' does, looks at the field at each\n"
+         "moment at which a timer fired, and prints one line:\n\n"
+         "    second START flashes F cells N kept\n\n"
+         "F is the highest number of flashes that 22 or more cells of one block of 11 columns by\n"
+         "8 rows did within one second; N of that block's cells did F or more, and START is the\n"
+         "moment of the first change in that second, in milliseconds of virtual time. All three\n"
+         "tell of the worst such second, the earliest of those alike. Where no 22 cells flashed, "
+         "F\n"
+         "and N are 0 and START is the beginning. The last word is 'broken' where F is above 3:\n"
+         "such pictures can bring on seizures in people with photosensitive epilepsy. A flash is "
+         "a\n"
+         "pair of opposite changes of relative luminance by 0.1 or more with the darker state "
+         "below\n"
+         "0.8, or a pair of changes to or from saturated red. Small steps one way add up to one\n"
+         "change.\n";
 }
 
 /// Faults before the first line count as line 0.
