@@ -4,27 +4,17 @@
 
 #include "mosaic/cells.h"
 #include "mosaic/random_pick.h"
-#include "panel/end_run.h"
 #include "panel/numbers.h"
+#include "transform/crea_disegno.h"
 
 namespace caleidoscopio {
 
 namespace {
 
-/// A count in lblCrea(k). The buttons stop at 60; only a damaged memory brings one that would keep
-/// the panel waiting.
-std::int64_t count(const BreakControls& s, int k) {
-  const std::int64_t n = number(s, s.lblCrea[k]);
-  if (n > 1000)
-    endRun(s.lblCrea.nameOf(k) + ".Caption is \"" + s.lblCrea[k].Caption +
-           "\"; expected a count of 1000 at most");
-  return n;
-}
-
 /// A minimum and, unless that is 0, at least 1 and at most `extra` more.
 std::int64_t dots(BreakControls& s, int least, int extra) {
-  const std::int64_t n = count(s, least);
-  const std::int64_t more = count(s, extra);
+  const std::int64_t n = designCount(s, least);
+  const std::int64_t more = designCount(s, extra);
   return more == 0 ? n : n + CasualeMinuti(s, more);
 }
 
@@ -59,14 +49,14 @@ void ground(BreakControls& s) {
 }
 
 void rectangles(BreakControls& s) {
-  std::int64_t n = count(s, 1);
-  if (s.lblCrea[2].Caption != "0") n += CasualeMinuti(s, count(s, 2));
+  std::int64_t n = designCount(s, 1);
+  if (s.lblCrea[2].Caption != "0") n += CasualeMinuti(s, designCount(s, 2));
   for (std::int64_t i = 1; i <= n; ++i) {
     const Corner a = drawCorner(s);
     const Corner b = drawCorner(s);
     const Label& slot = drawSlot(s, drawSlotsInUse(s));
-    const auto [top, bottom] = std::minmax(a.row, b.row);
-    const auto [left, right] = std::minmax(a.column, b.column);
+    const auto [top, bottom] = std::minmax({a.row, b.row});
+    const auto [left, right] = std::minmax({a.column, b.column});
     for (std::int64_t column = left; column <= right; ++column)
       for (std::int64_t row = top; row <= bottom; ++row)
         writeQuartet(s, 1 + 36 * row + 4 * column, slot);
@@ -108,7 +98,7 @@ void borderDots(BreakControls& s, std::int64_t n, std::int64_t slots) {
 void fieldDots(BreakControls& s) {
   // No button ever gives this element that colour: idle unless a hand sets it from outside.
   if (s.lblCrea[11].BackColor != colours::selected) return;
-  const std::int64_t n = CasualeMinuti(s, count(s, 11) + 1) - 1;
+  const std::int64_t n = CasualeMinuti(s, designCount(s, 11) + 1) - 1;
   for (std::int64_t i = 1; i <= n; ++i) {
     const Label& slot = drawSlot(s, drawSlotsInUse(s));
     writeQuartet(s, 4 * CasualeMinuti(s, 81) - 3, slot);

@@ -10,23 +10,12 @@ namespace caleidoscopio {
 
 namespace {
 
-constexpr std::int64_t largestCount = 1000;
 constexpr std::int64_t fieldQuartets = 81;
-
-// A tick runs to its end before anything else happens: a count that only damage can bring in
-// would hold up everything for as long as it says.
-std::int64_t count(const TransformControls& s, int k) {
-  const std::int64_t n = number(s, s.lblCrea[k]);
-  if (n > largestCount)
-    endRun(s.lblCrea.nameOf(k) + ".Caption is \"" + s.lblCrea[k].Caption +
-           "\"; expected a count of " + text(largestCount) + " at most");
-  return n;
-}
 
 /// The minimum, and unless the extra is switched off from 1 up to the extra more.
 std::int64_t drawCount(TransformControls& s, int minimum, int extra) {
-  std::int64_t n = count(s, minimum);
-  if (s.lblCrea[extra].Caption != "0") n += CasualeMinuti(s, count(s, extra));
+  std::int64_t n = designCount(s, minimum);
+  if (s.lblCrea[extra].Caption != "0") n += CasualeMinuti(s, designCount(s, extra));
   return n;
 }
 
@@ -111,7 +100,7 @@ void drawBorderDots(TransformControls& s, std::int64_t slots) {
 
 void drawFieldDots(TransformControls& s, std::int64_t slots) {
   if (s.lblCrea[11].Caption == "0") return;
-  const std::int64_t n = CasualeMinuti(s, count(s, 11) + 1) - 1;
+  const std::int64_t n = CasualeMinuti(s, designCount(s, 11) + 1) - 1;
   drawDots(s, n, slots, fieldQuartets, 0, paint);
 }
 
@@ -132,6 +121,15 @@ void changeColours(TransformControls& s) {
 }
 
 }  // namespace
+
+std::int64_t designCount(const TransformControls& s, int k) {
+  constexpr std::int64_t largest = 1000;
+  const std::int64_t n = number(s, s.lblCrea[k]);
+  if (n > largest)
+    endRun(s.lblCrea.nameOf(k) + ".Caption is \"" + s.lblCrea[k].Caption +
+           "\"; expected a count of " + text(largest) + " at most");
+  return n;
+}
 
 void CreaDisegno(TransformControls& s) {
   const std::int64_t active = number(s, s.lblValAttivo);

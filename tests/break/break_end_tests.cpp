@@ -195,6 +195,28 @@ TEST_F(BreakEnd, ANewDesignGetsNewColoursFirstIfMarked) {
   EXPECT_EQ(s.lblTavB[6].Caption, "37");
 }
 
+TEST_F(BreakEnd, ANewDesignIsDrawnAndThenItsGroundTakesTheSweptColour) {
+  s.lblBreakMode[26].BackColor = colours::unselected;
+  s.lblComCol[7].BackColor = colours::selected;  // the design lays the ground, slot 0
+  s.lblSelSfondo[3].Caption = "2";               // the whole picture
+  s.lblCrea[1].Caption = "1";
+  s.lblCrea[8].Caption = "mine";
+  sweep("U");
+  s.lblColSCelto.Caption = "5";
+  rig.generator.otherwise.reset();
+  rig.pick(1, 81);
+  rig.pick(2, 81);
+  rig.pick(3, 7);
+  rig.tick();
+  EXPECT_TRUE(rig.generator.queue.empty());
+  for (int i = 1; i <= 441; ++i) {
+    const Label& slot = s.lblValore[i <= 8 ? 2 : 5];
+    EXPECT_EQ(s.lblMiro[i].BackColor, slot.BackColor) << i;
+    EXPECT_EQ(tripleOf(s.lblMiro2[i]), tripleOf(slot)) << i;
+  }
+  EXPECT_EQ(s.lblCrea[8].Caption, "mine");
+}
+
 // ---- hand-over --------------------------------------------------------------------------------
 
 TEST_F(BreakEnd, StartedByHandWhileStoppedItEndsWithNothingMore) {
