@@ -45,6 +45,7 @@ TEST(BreakLong, NoWalkLeavesTheButtonsLockedWithoutABreakOnItsWay) {
   }
   SalvaDefault(s);
   SalvaNomi(s);
+  click(s.cmdGoTimer);  // start-up ends in a Go
   std::mt19937 dice{4711};
   const auto below = [&dice](std::size_t n) { return static_cast<std::size_t>(dice()) % n; };
 
