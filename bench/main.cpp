@@ -42,6 +42,8 @@ int main(int count, char** arguments) {
     bench::addShiftRows(rows);
     bench::addTransformRows(rows);
     bench::addColourRows(rows);
+    bench::addFrameRows(rows);
+    bench::addBreakRows(rows);
     bench::addMemoryRows(rows);
     return bench::compare(rows, options) ? 0 : 1;
   } catch (const RunEnded& end) {

@@ -12,6 +12,10 @@ void addShiftRows(Rows& rows);
 void addTransformRows(Rows& rows);
 /// A design, and changes of colours by clicks and without.
 void addColourRows(Rows& rows);
+/// One tick of cross and frame.
+void addFrameRows(Rows& rows);
+/// One sweep tick of each of the twelve Breaks, painting and uncovering.
+void addBreakRows(Rows& rows);
 /// Loading a memory, beside reading the file and splitting its lines.
 void addMemoryRows(Rows& rows);
 

@@ -13,8 +13,11 @@ using Ring = std::span<const std::int16_t>;
 void uncover(BreakControls& s, Ring ring) {
   auto& display = s.lblMiro;
   auto& design = s.lblMiro2;
-  const bool captions = showsDigits(s);
-  for (const std::int16_t i : ring) copyIf(captions, display[i], design[i]);
+  // Two loops: the test for captions in a single one costs as much as the copies.
+  if (showsDigits(s))
+    for (const std::int16_t i : ring) copyCell(display[i], design[i]);
+  else
+    for (const std::int16_t i : ring) copyColours(display[i], design[i]);
 }
 
 void paint(BreakControls& s, Ring ring) {

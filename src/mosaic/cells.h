@@ -10,10 +10,13 @@ inline bool showsDigits(const MosaicControls& s) {
   return s.lblVoceOpzioni[2].Caption == "Y";
 }
 
-/// BackColor, then ForeColor. The two always travel as a pair, so that a digit stays legible.
+/// BackColor and ForeColor. The two always travel as a pair, so that a digit stays legible, and
+/// being read before either is written they travel in one move of the machine.
 inline void copyColours(Frame& to, const Frame& from) {
-  to.BackColor = from.BackColor;
-  to.ForeColor = from.ForeColor;
+  const Colour back = from.BackColor;
+  const Colour fore = from.ForeColor;
+  to.BackColor = back;
+  to.ForeColor = fore;
 }
 
 /// The whole triple: Caption, BackColor, ForeColor.
