@@ -5,6 +5,9 @@
 build_packages=(g++ cmake ninja-build qt6-base-dev libgl-dev)
 run_packages=(fonts-liberation)
 virtual_display_packages=(xvfb scrot)
+# What makes a Debian package, and what looks it over.
+packaging_packages=(dpkg-dev file)
+package_check_packages=(lintian desktop-file-utils appstream man-db)
 
 as_root() {
   if [ "$(id -u)" -eq 0 ]; then
