@@ -103,10 +103,11 @@ TEST(BreakLong, NoWalkLeavesTheButtonsLockedWithoutABreakOnItsWay) {
   EXPECT_GT(breaks, 100);
   RecordProperty("breaks", breaks);
 
-  // And the Break that may be on its way at the end does come to its end.
+  // And the Break that may be on its way at the end does come to its end: 22 ticks of at most
+  // 3 seconds, the interval that a memory holds which was saved before any Break.
   if (s.cmdGoTimer.BackColor == colours::running) click(s.cmdGoTimer);
   s.lblBreakMode[21].BackColor = colours::unselected;
-  s.time.advance(30000);
+  s.time.advance(70000);
   EXPECT_TRUE(s.Command7.Enabled);
   EXPECT_FALSE(s.TmrBreak.Enabled());
 }
