@@ -92,16 +92,22 @@ struct Rings {
   std::array<std::int16_t, mostRings + 1> starts{};
 };
 
+// Each cell's ring is asked once: a compiler counts the steps that it takes here, and may give up.
 constexpr Rings ringsOf(int pattern) {
   Rings rings;
-  std::size_t at = 0;
-  for (int ring = 1; ring <= mostRings; ++ring) {
-    for (int i = 1; i <= cellCount; ++i) {
-      const Place place = placeOf(i);
-      if (ringOf(pattern, place.row, place.column) == ring)
-        rings.cells[at++] = static_cast<std::int16_t>(i);
-    }
-    rings.starts[static_cast<std::size_t>(ring)] = static_cast<std::int16_t>(at);
+  std::array<std::size_t, cellCount + 1> ringAt{};
+  for (int i = 1; i <= cellCount; ++i) {
+    const Place place = placeOf(i);
+    const auto ring = static_cast<std::size_t>(ringOf(pattern, place.row, place.column));
+    ringAt[static_cast<std::size_t>(i)] = ring;
+    ++rings.starts[ring];
+  }
+  for (std::size_t ring = 1; ring <= mostRings; ++ring)
+    rings.starts[ring] = static_cast<std::int16_t>(rings.starts[ring] + rings.starts[ring - 1]);
+  auto next = rings.starts;  // of each ring, by the ring before it
+  for (std::size_t i = 1; i <= cellCount; ++i) {
+    std::int16_t& at = next[ringAt[i] - 1];
+    rings.cells[static_cast<std::size_t>(at++)] = static_cast<std::int16_t>(i);
   }
   return rings;
 }
