@@ -9,7 +9,7 @@ case $kind in
   desktop) tool=(desktop-file-validate "$file") ;;
   metainfo) tool=(appstreamcli validate --no-net --no-color --explain "$file") ;;
   man) tool=(man --warnings -E UTF-8 -l -Tutf8 -Z "$file") ;;
-  deb) tool=(lintian --fail-on error,warning --tag-display-limit 0 "$file") ;;
+  deb) tool=(lintian --fail-on "error,warning" --tag-display-limit 0 "$file") ;;
 esac
 command -v "${tool[0]}" >/dev/null || {
   echo "${tool[0]} is missing; ./test installs it"
