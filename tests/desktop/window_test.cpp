@@ -109,8 +109,10 @@ TEST_P(Sizes, TheFieldsCellsMeetWithoutAGap) {
     s.form.BackColor = {0x0000FF};
   });
   const QImage picture = rig.window->grab().toImage();
-  const QPoint from = rig.field().boxOf(437).topLeft() + QPoint(1, 1);
-  const QPoint to = rig.field().boxOf(439).bottomRight() - QPoint(1, 1);
+  const double ratio = picture.devicePixelRatio();
+  const auto device = [ratio](const QPoint& point) { return (QPointF(point) * ratio).toPoint(); };
+  const QPoint from = device(rig.field().boxOf(437).topLeft()) + QPoint(2, 2);
+  const QPoint to = device(rig.field().boxOf(439).bottomRight()) - QPoint(2, 2);
   for (int x = from.x(); x <= to.x(); ++x)
     ASSERT_EQ(picture.pixelColor(x, from.y() + 3), QColor(0, 255, 0)) << x;
   for (int y = from.y(); y <= to.y(); ++y)
