@@ -12,11 +12,12 @@ namespace {
 
 constexpr std::int64_t fieldQuartets = 81;
 
-/// The minimum, and unless the extra is switched off from 1 up to the extra more.
+/// The minimum, and unless the extra is switched off from 1 up to the extra more. The extra of the
+/// rectangles is off by its text, "0", those of the dots by their number: "00" tells the two apart.
 std::int64_t drawCount(TransformControls& s, int minimum, int extra) {
-  std::int64_t n = designCount(s, minimum);
-  if (s.lblCrea[extra].Caption != "0") n += CasualeMinuti(s, designCount(s, extra));
-  return n;
+  const std::int64_t n = designCount(s, minimum);
+  const bool off = extra == 2 ? s.lblCrea[extra].Caption == "0" : designCount(s, extra) == 0;
+  return off ? n : n + CasualeMinuti(s, designCount(s, extra));
 }
 
 void selectSlot(TransformControls& s, std::int64_t k) {
