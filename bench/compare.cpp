@@ -18,6 +18,7 @@ class Collector : public benchmark::BenchmarkReporter {
     for (const Run& run : runs)
       times_[run.run_name.function_name].push_back(run.GetAdjustedCPUTime());
   }
+  bool has(const std::string& name) const { return times_.contains(name); }
   double median(const std::string& name) {
     std::vector<double>& times = times_[name];
     std::sort(times.begin(), times.end());
@@ -83,6 +84,7 @@ bool compare(const Rows& rows, const Options& options) {
   std::printf("| %-42s | %10s | %10s | %5s | %3s |\n", "", "instrument", "bare", "ratio", "aim");
   std::printf("|%s|%s|%s|%s|%s|\n", "---", "--:", "--:", "--:", "--:");
   for (const Row& row : rows) {
+    if (!collected.has(oursOf(row)) || !collected.has(bareOf(row))) continue;  // filtered out
     const bool within = print(row, collected);
     well = (within || options.ignoreAims) && well;
   }

@@ -5,7 +5,7 @@
 
 #include "instrument.h"
 #include "mosaic/index_map.h"
-#include "panel/geometry.h"
+#include "panel/scaling.h"
 
 namespace caleidoscopio {
 
@@ -296,12 +296,8 @@ Element elementNamed(const Store& s, std::string_view text) {
 }
 
 void place(std::vector<Spot>& spots, const Spot& spot, const Box& box, double points) {
-  const Geometry g = geometryOf(spot.element);
-  g.left = {box.left};
-  g.top = {box.top};
-  g.width = {box.width};
-  g.height = {box.height};
-  if (g.font) *g.font = {points};
+  spot.element.control->geometry(spot.element.index) = {
+      {box.left}, {box.top}, {box.width}, {box.height}, {points}};
   spots.push_back(spot);
 }
 
@@ -339,6 +335,10 @@ void placePanels(Store& s, std::span<const Panel> rows, std::vector<Spot>& spots
 }  // namespace
 
 void placeControls(Store& s) {
+  for (const Control* window : {&s.form, &s.frmMiroVelTaZQ}) {
+    window->geometry().Width = {designSize.width};
+    window->geometry().Height = {designSize.height};
+  }
   placeCells(s);
   placePanels(s, panels, s.spots);
   placePanels(s, endPanels, s.endSpots);

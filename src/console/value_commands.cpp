@@ -61,7 +61,7 @@ void runDump(Session& session, const Line&) {
     for (int i = control->first(); i <= control->last(); ++i)
       for (const Property& property : propertiesOf(control->kind()))
         session.out << control->nameOf(i) << '.' << property.name << ' '
-                    << toText(property.of(control->element(i))) << '\n';
+                    << toText(property.of(*control, i)) << '\n';
 }
 
 void runField(Session& session, const Line&) {

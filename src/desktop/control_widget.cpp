@@ -24,10 +24,10 @@ void prepare(QWidget& widget, const Spot& spot) {
 }
 
 void place(QWidget& widget, Element element) {
-  const Geometry g = geometryOf(element);
-  const QRect box = toPixels(g);
+  const QRect box = toPixels(element.control->geometry(element.index));
   if (widget.geometry() != box) widget.setGeometry(box);
-  if (widget.isVisibleTo(widget.parentWidget()) != g.visible) widget.setVisible(g.visible);
+  const bool visible = element.control->visible(element.index);
+  if (widget.isVisibleTo(widget.parentWidget()) != visible) widget.setVisible(visible);
 }
 
 void drawFrame(QPainter& painter, const QRect& box, int line, const QColor& colour) {
@@ -59,6 +59,7 @@ const Label& ControlWidget::label() const {
 
 void ControlWidget::mirror() {
   const Label& now = label();
+  const double points = spot_.element.control->geometry(spot_.element.index).FontSize.value;
   place(*this, spot_.element);
   if (isEnabled() != now.Enabled) setEnabled(now.Enabled);
   if (const QString tip = toolTipOf(driver_.store(), spot_.element); tip != toolTip()) {
@@ -66,13 +67,13 @@ void ControlWidget::mirror() {
     setAccessibleName(tip);
   }
   if (caption_ == now.Caption && back_ == now.BackColor && fore_ == now.ForeColor &&
-      border_ == now.BorderStyle && points_ == now.FontSize.value)
+      border_ == now.BorderStyle && points_ == points)
     return;
   caption_ = now.Caption;
   back_ = now.BackColor;
   fore_ = now.ForeColor;
   border_ = now.BorderStyle;
-  points_ = now.FontSize.value;
+  points_ = points;
   update();
 }
 

@@ -27,10 +27,10 @@ void FieldWidget::measure() {
   const auto edge = [this](Twips at) { return qRound(at.value / twipsToPixel * ratio_); };
   for (int k = 0; k < side; ++k) {
     const auto at = static_cast<std::size_t>(k);
-    across_[at] = edge(s.lblMiro[indexAt({0, k})].Left);
-    down_[at] = edge(s.lblMiro[indexAt({k, 0})].Top);
+    across_[at] = edge(s.lblMiro.geometry(indexAt({0, k})).Left);
+    down_[at] = edge(s.lblMiro.geometry(indexAt({k, 0})).Top);
   }
-  const Label& last = s.lblMiro[indexAt({side - 1, side - 1})];
+  const Geometry& last = s.lblMiro.geometry(indexAt({side - 1, side - 1}));
   across_.back() = edge(last.Left + last.Width);
   down_.back() = edge(last.Top + last.Height);
 }
@@ -127,10 +127,11 @@ void FieldWidget::paintCell(QPainter& painter, int row, int column) {
 
 void FieldWidget::paintQuadrant(QPainter& painter) const {
   if (!surroundings_.quadrantShown) return;
-  const Shape& shape = driver_.store().ShpRettangolo;
+  const auto& shape = driver_.store().ShpRettangolo;
   const auto device = [this](Twips at) { return qRound(at.value / twipsToPixel * ratio_); };
-  const QRect box(QPoint(device(shape.Left), device(shape.Top)),
-                  QPoint(device(shape.Left + shape.Width), device(shape.Top + shape.Height)));
+  const Geometry& at = shape.geometry();
+  const QRect box(QPoint(device(at.Left), device(at.Top)),
+                  QPoint(device(at.Left + at.Width), device(at.Top + at.Height)));
   // Black and white dashes show on every ground.
   QPen pen(Qt::black, shape.BorderWidth * ratio_);
   painter.setPen(pen);
@@ -145,7 +146,7 @@ void FieldWidget::paintEvent(QPaintEvent* event) {
   measure();
   QPainter painter(this);
   painter.scale(1 / ratio_, 1 / ratio_);
-  QFont digits = lettersOf({driver_.store().lblMiro[1].FontSize.value * ratio_}, true);
+  QFont digits = lettersOf({driver_.store().lblMiro.geometry(1).FontSize.value * ratio_}, true);
   painter.setFont(digits);
   const QRect field = deviceField();
   for (const QRect& part : event->region()) {

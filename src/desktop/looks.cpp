@@ -40,7 +40,7 @@ QRect toPixels(Twips left, Twips top, Twips width, Twips height) {
 }
 
 QRect toPixels(const Geometry& g) {
-  return toPixels(g.left, g.top, g.width, g.height);
+  return toPixels(g.Left, g.Top, g.Width, g.Height);
 }
 
 }  // namespace caleidoscopio

@@ -4,7 +4,7 @@
 #include <QFont>
 #include <QRect>
 
-#include "panel/geometry.h"
+#include "panel/controls.h"
 
 namespace caleidoscopio {
 

@@ -33,11 +33,12 @@ TextBox& NamingBox::box() const {
 }
 
 void NamingBox::mirror() {
-  const QRect place = toPixels(geometryOf(spot_.element));
+  const Geometry& now = spot_.element.control->geometry(spot_.element.index);
+  const QRect place = toPixels(now);
   if (geometry() != place) setGeometry(place);
-  if (font() != lettersOf(box().FontSize)) setFont(lettersOf(box().FontSize));
-  const QString now = QString::fromStdString(box().Text);
-  if (text() != now) setText(now);
+  if (font() != lettersOf(now.FontSize)) setFont(lettersOf(now.FontSize));
+  const QString written = QString::fromStdString(box().Text);
+  if (text() != written) setText(written);
 }
 
 void NamingBox::keyPressEvent(QKeyEvent* event) {
@@ -69,9 +70,10 @@ ImageWidget::ImageWidget(const Spot& spot, const Driver& driver, QWidget* parent
 }
 
 void ImageWidget::mirror() {
-  const Geometry g = geometryOf(spot_.element);
-  if (geometry() != toPixels(g)) setGeometry(toPixels(g));
-  setVisible(g.visible);
+  const Control& image = *spot_.element.control;
+  const QRect place = toPixels(image.geometry());
+  if (geometry() != place) setGeometry(place);
+  setVisible(image.visible());
 }
 
 /// A square ring of 8k cells around the centre becomes a circle of 8k sectors: the corners go to

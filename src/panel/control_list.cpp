@@ -49,7 +49,7 @@ Found<Value> ControlList::property(std::string_view text) const {
   const auto found = element(text.substr(0, dot));
   if (const auto* why = std::get_if<std::string>(&found)) return *why;
   const auto [control, index] = std::get<Element>(found);
-  const auto value = propertyOf(control->kind(), control->element(index), text.substr(dot + 1));
+  const auto value = propertyOf(*control, index, text.substr(dot + 1));
   if (!value) return "unknown property in " + std::string(text);
   return *value;
 }

@@ -8,14 +8,15 @@
 namespace caleidoscopio {
 
 Control::Control(Group& group, std::string_view name, Kind kind, int first, int last, bool single,
-                 void* elements, std::size_t stride)
+                 void* elements, std::size_t stride, Geometry* geometry)
     : name_(name),
       kind_(kind),
       first_(first),
       last_(last),
       single_(single),
       elements_(elements),
-      stride_(stride) {
+      stride_(stride),
+      geometry_(geometry) {
   group.add(*this);
 }
 
@@ -28,6 +29,31 @@ std::string Control::nameOf(int index) const {
 void* Control::element(int index) const {
   if (!contains(index)) outside(index);
   return static_cast<char*>(elements_) + static_cast<std::size_t>(index - first_) * stride_;
+}
+
+Geometry& Control::geometry(int index) const {
+  if (!contains(index)) outside(index);
+  assert(geometry_ && "a timer has no place");
+  return geometry_[index - first_];
+}
+
+bool Control::visible(int index) const {
+  const void* at = element(index);
+  switch (kind_) {
+    case Kind::Window:
+    case Kind::Frame:
+    case Kind::Label:
+      return static_cast<const Frame*>(at)->Visible;
+    case Kind::Shape:
+      return static_cast<const Shape*>(at)->Visible;
+    case Kind::Image:
+      return static_cast<const Image*>(at)->Visible;
+    case Kind::TextBox:
+      return static_cast<const TextBox*>(at)->Visible;
+    case Kind::Timer:
+      break;
+  }
+  return false;
 }
 
 int Control::indexOf(const void* address) const {

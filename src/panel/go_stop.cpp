@@ -43,7 +43,7 @@ void go(RunControls& s, const ScreenFit& fit) {
   if (s.lblSeq[11].BackColor == colours::selected)
     s.FraPannello[2].Visible = false;
   else if (hide)
-    s.FraPannello[2].Left = placedLeft(fit, tableLeftInRun);
+    s.FraPannello.geometry(2).Left = placedLeft(fit, tableLeftInRun);
 
   takeSpeed(s, s.TmrGoA, 1);
   takeSpeed(s, s.TmrGoB, 2);
@@ -71,7 +71,8 @@ void stop(RunControls& s, const ScreenFit& fit) {
   if (s.lblSpiaBreak.BackColor == colours::selected)
     s.lblBreakMode[21].BackColor = colours::unselected;
   s.FraPannello[2].Visible = s.lblSeq[11].BackColor != colours::unselected;
-  if (s.FraPannello[2].Visible) s.FraPannello[2].Left = placedLeft(fit, sequencerTableLeft);
+  if (s.FraPannello[2].Visible)
+    s.FraPannello.geometry(2).Left = placedLeft(fit, sequencerTableLeft);
   // TmrBreak is left alone on purpose: a sweep under way runs out to its end.
   for (Timer* timer : {&s.TmrGoA, &s.TmrGoB, &s.TmrGoC, &s.TmrGoD, &s.TmrBrk})
     timer->setEnabled(false);

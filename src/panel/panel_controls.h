@@ -26,10 +26,8 @@ struct PanelControls {
   bool ended = false;
 
   Group windowGroup;
-  Single<Window> form{windowGroup, "form", Caption{"Caleidoscopio"}, Back{colours::ground},
-                      Size{15360, 11520}};
-  Single<Window> frmMiroVelTaZQ{windowGroup, "frmMiroVelTaZQ", Back{colours::ground}, Hidden{},
-                                Size{15360, 11520}};
+  Single<Window> form{windowGroup, "form", Caption{"Caleidoscopio"}, Back{colours::ground}};
+  Single<Window> frmMiroVelTaZQ{windowGroup, "frmMiroVelTaZQ", Back{colours::ground}, Hidden{}};
   Single<TextBox> TxtNomeMemoria{windowGroup, "TxtNomeMemoria"};
   Single<Image> ImgZQ{windowGroup, "ImgZQ"};
   Single<Shape> ShpContour{windowGroup, "ShpContour", Width{2}};

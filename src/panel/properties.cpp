@@ -10,14 +10,18 @@ namespace caleidoscopio {
 namespace {
 
 template <class T, auto Member>
-Value member(void* element) {
-  return &(static_cast<T*>(element)->*Member);
+Value member(const Control& control, int index) {
+  return &(static_cast<T*>(control.element(index))->*Member);
 }
-Value interval(void* element) {
-  return IntervalOf{static_cast<Timer*>(element)};
+template <auto Member>
+Value place(const Control& control, int index) {
+  return &(control.geometry(index).*Member);
 }
-Value enabled(void* element) {
-  return EnabledOf{static_cast<Timer*>(element)};
+Value interval(const Control& control, int index) {
+  return IntervalOf{static_cast<Timer*>(control.element(index))};
+}
+Value enabled(const Control& control, int index) {
+  return EnabledOf{static_cast<Timer*>(control.element(index))};
 }
 
 template <class T>
@@ -28,35 +32,35 @@ constexpr std::array framed{
     Property{"BorderStyle", member<T, &T::BorderStyle>},
     Property{"Enabled", member<T, &T::Enabled>},
     Property{"Visible", member<T, &T::Visible>},
-    Property{"Left", member<T, &T::Left>},
-    Property{"Top", member<T, &T::Top>},
-    Property{"Width", member<T, &T::Width>},
-    Property{"Height", member<T, &T::Height>},
+    Property{"Left", place<&Geometry::Left>},
+    Property{"Top", place<&Geometry::Top>},
+    Property{"Width", place<&Geometry::Width>},
+    Property{"Height", place<&Geometry::Height>},
 };
 
 constexpr auto labelProperties = [] {
   std::array<Property, framed<Label>.size() + 1> all{};
   for (std::size_t i = 0; i < framed<Label>.size(); ++i) all[i] = framed<Label>[i];
-  all.back() = {"FontSize", member<Label, &Label::FontSize>};
+  all.back() = {"FontSize", place<&Geometry::FontSize>};
   return all;
 }();
 
 constexpr std::array shapeProperties{
     Property{"Visible", member<Shape, &Shape::Visible>},
-    Property{"Left", member<Shape, &Shape::Left>},
-    Property{"Top", member<Shape, &Shape::Top>},
-    Property{"Width", member<Shape, &Shape::Width>},
-    Property{"Height", member<Shape, &Shape::Height>},
+    Property{"Left", place<&Geometry::Left>},
+    Property{"Top", place<&Geometry::Top>},
+    Property{"Width", place<&Geometry::Width>},
+    Property{"Height", place<&Geometry::Height>},
     Property{"BorderColor", member<Shape, &Shape::BorderColor>},
     Property{"BorderWidth", member<Shape, &Shape::BorderWidth>},
 };
 
 constexpr std::array imageProperties{
     Property{"Visible", member<Image, &Image::Visible>},
-    Property{"Left", member<Image, &Image::Left>},
-    Property{"Top", member<Image, &Image::Top>},
-    Property{"Width", member<Image, &Image::Width>},
-    Property{"Height", member<Image, &Image::Height>},
+    Property{"Left", place<&Geometry::Left>},
+    Property{"Top", place<&Geometry::Top>},
+    Property{"Width", place<&Geometry::Width>},
+    Property{"Height", place<&Geometry::Height>},
 };
 
 constexpr std::array textBoxProperties{
@@ -65,11 +69,11 @@ constexpr std::array textBoxProperties{
     Property{"BorderStyle", member<TextBox, &TextBox::BorderStyle>},
     Property{"Enabled", member<TextBox, &TextBox::Enabled>},
     Property{"Visible", member<TextBox, &TextBox::Visible>},
-    Property{"Left", member<TextBox, &TextBox::Left>},
-    Property{"Top", member<TextBox, &TextBox::Top>},
-    Property{"Width", member<TextBox, &TextBox::Width>},
-    Property{"Height", member<TextBox, &TextBox::Height>},
-    Property{"FontSize", member<TextBox, &TextBox::FontSize>},
+    Property{"Left", place<&Geometry::Left>},
+    Property{"Top", place<&Geometry::Top>},
+    Property{"Width", place<&Geometry::Width>},
+    Property{"Height", place<&Geometry::Height>},
+    Property{"FontSize", place<&Geometry::FontSize>},
     Property{"Text", member<TextBox, &TextBox::Text>},
 };
 
@@ -199,9 +203,9 @@ std::span<const Property> propertiesOf(Kind kind) {
   return {};
 }
 
-std::optional<Value> propertyOf(Kind kind, void* element, std::string_view property) {
-  for (const Property& p : propertiesOf(kind))
-    if (p.name == property) return p.of(element);
+std::optional<Value> propertyOf(const Control& control, int index, std::string_view property) {
+  for (const Property& p : propertiesOf(control.kind()))
+    if (p.name == property) return p.of(control, index);
   return std::nullopt;
 }
 

@@ -26,13 +26,14 @@ using Value = std::variant<std::string*, Colour*, std::int32_t*, bool*, Twips*, 
 
 struct Property {
   std::string_view name;
-  Value (*of)(void* element);
+  Value (*of)(const Control& control, int index);
 };
 
 /// The properties of a kind of control, in the order in which they are listed.
 std::span<const Property> propertiesOf(Kind kind);
-/// The named property of an element, or nothing when the kind has none of that name.
-std::optional<Value> propertyOf(Kind kind, void* element, std::string_view property);
+/// The named property of an element, or nothing when its kind has none of that name. Ends the run
+/// outside the control's bounds.
+std::optional<Value> propertyOf(const Control& control, int index, std::string_view property);
 
 /// True for a property that holds text.
 bool isText(const Value& value);

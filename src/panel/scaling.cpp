@@ -1,7 +1,5 @@
 #include "panel/scaling.h"
 
-#include "panel/geometry.h"
-
 namespace caleidoscopio {
 
 ScreenFit fitTo(ScreenSize screen) {
@@ -15,21 +13,21 @@ ScreenFit fitTo(ScreenSize screen) {
   return fit;
 }
 
-void scaleToScreen(Frame& window, std::span<const Spot> spots, ScreenSize screen) {
+void scaleToScreen(const Control& window, std::span<const Spot> spots, ScreenSize screen) {
   if (screen.width == designSize.width && screen.height == designSize.height) return;
   const ScreenFit fit = fitTo(screen);
-  window.Width = {screen.width};
-  window.Height = {screen.height};
+  window.geometry().Width = {screen.width};
+  window.geometry().Height = {screen.height};
   for (const Spot& spot : spots) {
-    const Geometry g = geometryOf(spot.element);
-    g.height = g.height * fit.height;
-    g.top = g.top * fit.height;
-    if (spot.withField) g.left = g.left + Twips{fit.offset};
+    Geometry& g = spot.element.control->geometry(spot.element.index);
+    g.Height = g.Height * fit.height;
+    g.Top = g.Top * fit.height;
+    if (spot.withField) g.Left = g.Left + Twips{fit.offset};
     if (fit.width != 1) {
-      g.left = g.left * fit.width;
-      g.width = g.width * fit.width;
+      g.Left = g.Left * fit.width;
+      g.Width = g.Width * fit.width;
     }
-    if (g.font) g.font->value *= fit.font;
+    g.FontSize.value *= fit.font;
   }
 }
 

@@ -32,6 +32,6 @@ inline Twips placedLeft(const ScreenFit& fit, double designLeft) {
 
 /// Fits a window and every control placed on it to the screen; to be done once. On a screen of
 /// the design's size nothing moves.
-void scaleToScreen(Frame& window, std::span<const Spot> spots, ScreenSize screen);
+void scaleToScreen(const Control& window, std::span<const Spot> spots, ScreenSize screen);
 
 }  // namespace caleidoscopio

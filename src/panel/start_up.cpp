@@ -26,8 +26,8 @@ std::string creditLine(int year) {
 void Form_Load(RunControls& s) {
   const WallTime time = s.platform->clock.now();
   s.platform->generator.seed(time);
-  s.FraMemoria.Left = {105};
-  s.FraMemoria.Top = {8505};
+  s.FraMemoria.geometry().Left = {105};
+  s.FraMemoria.geometry().Top = {8505};
   // With no root found the folder stays as it was.
   if (std::string root = s.platform->files.root(); !root.empty()) s.lblDir.Caption = root;
   s.lblScritteVarie[9].Caption = creditLine(time.year);
@@ -38,11 +38,11 @@ void Form_Load(RunControls& s) {
   s.lblSelez.Caption = "Def";
   for (int i = 1; i <= cellCount; ++i) s.lblMiro2[i].BackColor = s.lblMiro[i].BackColor;
   for (int i = 1; i <= 12; ++i) {
-    s.FraTransf[i].Left = {105};
-    s.FraTransf[i].Top = {3150};
+    s.FraTransf.geometry(i).Left = {105};
+    s.FraTransf.geometry(i).Top = {3150};
   }
   // The panel is built wider than it shows; what lies beyond is cut off.
-  s.FraPannello[0].Width = {2255};
+  s.FraPannello.geometry(0).Width = {2255};
   scaleToScreen(s.form, s.spots, s.platform->screen);
   showContour(s);
   cmdGoTimer_Click(s);

@@ -36,7 +36,8 @@ void Timer::setInterval(std::int64_t ms) {
 }
 
 TimerControl::TimerControl(Group& group, Time& time, std::string_view name, std::int32_t interval)
-    : Control(group, name, Kind::Timer, 0, 0, true, static_cast<Timer*>(this), sizeof(Timer)),
+    : Control(group, name, Kind::Timer, 0, 0, true, static_cast<Timer*>(this), sizeof(Timer),
+              nullptr),
       Timer(time, interval) {
   time.timers_.push_back({this, this});
 }

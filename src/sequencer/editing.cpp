@@ -145,7 +145,7 @@ void stepDisplay(SequencerControls& s) {
   }
   table.Visible = true;
   if (s.lblHide.BackColor == colours::selected)
-    table.Left = placedLeft(fitTo(s.platform->screen), sequencerTableLeft);
+    s.FraPannello.geometry(2).Left = placedLeft(fitTo(s.platform->screen), sequencerTableLeft);
 }
 
 std::optional<Column> filledBy(int k) {

@@ -12,7 +12,8 @@ struct EndPicture : testing::Test {
     bool operator==(const Places&) const = default;
   };
   static Places of(const Store& s) {
-    return {s.FraZQ.Left, s.FraZQ.Top, s.FraZQ.Width, s.FraZQ.Height};
+    const Geometry& at = s.FraZQ.geometry();
+    return {at.Left, at.Top, at.Width, at.Height};
   }
   /// The same place on the drawing.
   static Places drawn() {
@@ -25,8 +26,8 @@ TEST_F(EndPicture, OnTheDesignsScreenNothingMoves) {
   StartedRig rig;
   click(rig.s.lblComandiVari, 2);
   EXPECT_EQ(of(rig.s), drawn());
-  EXPECT_EQ(rig.s.frmMiroVelTaZQ.Width, Twips{15360});
-  EXPECT_EQ(rig.s.frmMiroVelTaZQ.Height, Twips{11520});
+  EXPECT_EQ(rig.s.frmMiroVelTaZQ.geometry().Width, Twips{15360});
+  EXPECT_EQ(rig.s.frmMiroVelTaZQ.geometry().Height, Twips{11520});
 }
 
 TEST_F(EndPicture, TheWideScreenMovesItsFrameSidewaysAndKeepsItsSize) {
@@ -35,32 +36,30 @@ TEST_F(EndPicture, TheWideScreenMovesItsFrameSidewaysAndKeepsItsSize) {
   Places expected = drawn();
   expected.left = expected.left + Twips{2565};
   EXPECT_EQ(of(rig.s), expected);
-  EXPECT_EQ(rig.s.frmMiroVelTaZQ.Width, Twips{20490});
-  EXPECT_EQ(rig.s.frmMiroVelTaZQ.Height, Twips{11520});
+  EXPECT_EQ(rig.s.frmMiroVelTaZQ.geometry().Width, Twips{20490});
+  EXPECT_EQ(rig.s.frmMiroVelTaZQ.geometry().Height, Twips{11520});
 }
 
 TEST_F(EndPicture, AnyOtherScreenStretchesItAndShrinksItsLetters) {
   const StartableRig model;
   StartedRig rig({19200, 14400});
-  const double before = rig.s.lblAvvertimento2.FontSize.value;
+  const double before = rig.s.lblAvvertimento2.geometry().FontSize.value;
   click(rig.s.lblComandiVari, 2);
   const Places d = drawn();
   EXPECT_EQ(of(rig.s), (Places{d.left * 1.25, d.top * 1.25, d.width * 1.25, d.height * 1.25}));
-  EXPECT_EQ(rig.s.ImgZQ.Width, model.s.ImgZQ.Width * 1.25);
-  EXPECT_EQ(rig.s.lblAvvertimento2.FontSize.value, before * 0.9);
-  EXPECT_EQ(rig.s.frmMiroVelTaZQ.Width, Twips{19200});
+  EXPECT_EQ(rig.s.ImgZQ.geometry().Width, model.s.ImgZQ.geometry().Width * 1.25);
+  EXPECT_EQ(rig.s.lblAvvertimento2.geometry().FontSize.value, before * 0.9);
+  EXPECT_EQ(rig.s.frmMiroVelTaZQ.geometry().Width, Twips{19200});
 }
 
 TEST_F(EndPicture, EveryControlOfItHasItsPlaceOnTheDrawing) {
   const StartableRig rig;
   const Store& s = rig.s;
-  for (const Frame* frame :
-       {static_cast<const Frame*>(&s.FraZQ), static_cast<const Frame*>(&s.lblAvvertimento2),
-        static_cast<const Frame*>(&s.lblZQ), static_cast<const Frame*>(&s.lblScritteVarieC)}) {
-    EXPECT_GT(frame->Width.value, 0) << s.controls.nameOf(frame);
-    EXPECT_GT(frame->Height.value, 0) << s.controls.nameOf(frame);
+  for (const Control* control : std::initializer_list<const Control*>{
+           &s.FraZQ, &s.lblAvvertimento2, &s.lblZQ, &s.lblScritteVarieC, &s.ImgZQ}) {
+    EXPECT_GT(control->geometry().Width.value, 0) << control->name();
+    EXPECT_GT(control->geometry().Height.value, 0) << control->name();
   }
-  EXPECT_GT(s.ImgZQ.Width.value, 0);
 }
 
 TEST_F(EndPicture, ASecondEscDoesNotStretchItAgain) {

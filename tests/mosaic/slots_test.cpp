@@ -169,7 +169,7 @@ TEST_F(Swap, AClickOnTheActiveSlotsOwnSwatchChangesNothing) {
       for (int i = control->first(); i <= control->last(); ++i)
         for (const Property& p : propertiesOf(control->kind())) {
           if (control->name() == "lblMemoCol") continue;  // the scratch of the trade
-          values += control->nameOf(i) + std::string(p.name) + toText(p.of(control->element(i)));
+          values += control->nameOf(i) + std::string(p.name) + toText(p.of(*control, i));
         }
     return values;
   };

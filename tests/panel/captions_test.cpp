@@ -93,7 +93,7 @@ TEST_F(Properties, AreWrittenAsMemoriesWriteThem) {
 
 TEST_F(Properties, LengthsHaveSixDecimalsAtMostAndNoTrailingZeros) {
   const auto written = [&](double twips) {
-    s.form.Left = {twips};
+    s.form.geometry().Left = {twips};
     return get("form.Left");
   };
   EXPECT_EQ(written(240), "240");

@@ -99,30 +99,30 @@ TEST_F(Go, HidesTheTableThatIsShownAndLeavesItsPlace) {
   s.FraPannello[2].Visible = true;
   go();
   EXPECT_FALSE(s.FraPannello[2].Visible);
-  EXPECT_EQ(s.FraPannello[2].Left, Twips{2730});
+  EXPECT_EQ(s.FraPannello.geometry(2).Left, Twips{2730});
 }
 
 TEST_F(Go, MovesTheTableThatIsNotWantedToTheLeftPanelsPlace) {
   s.FraPannello[2].Visible = true;
   go();
   EXPECT_TRUE(s.FraPannello[2].Visible);
-  EXPECT_EQ(s.FraPannello[2].Left, Twips{210});
+  EXPECT_EQ(s.FraPannello.geometry(2).Left, Twips{210});
 }
 
 TEST_F(Go, LeavesTheTableWhereItIsWhenThePanelsStay) {
   click(s.lblHide);
   go();
-  EXPECT_EQ(s.FraPannello[2].Left, Twips{2730});
+  EXPECT_EQ(s.FraPannello.geometry(2).Left, Twips{2730});
 }
 
 TEST_F(Go, PlacesTheTableByRatioOrByOffsetOfTheScreen) {
   platform.screen = {19200, 14400};
   go();
-  EXPECT_EQ(s.FraPannello[2].Left, Twips{210 * 1.25});
+  EXPECT_EQ(s.FraPannello.geometry(2).Left, Twips{210 * 1.25});
   click(s.cmdGoTimer);
   platform.screen = {20490, 11520};
   go();
-  EXPECT_EQ(s.FraPannello[2].Left, Twips{2565 + 210});
+  EXPECT_EQ(s.FraPannello.geometry(2).Left, Twips{2565 + 210});
 }
 
 TEST_F(Go, LocksTheMemoriesButNotEsc) {

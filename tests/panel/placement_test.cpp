@@ -5,7 +5,6 @@
 #include <vector>
 
 #include "mosaic/index_map.h"
-#include "panel/geometry.h"
 #include "support/started_rig.h"
 
 namespace caleidoscopio::test {
@@ -15,8 +14,8 @@ struct Rectangle {
   double left, top, right, bottom;
 };
 Rectangle rectangleOf(Element element) {
-  const Geometry g = geometryOf(element);
-  return {g.left.value, g.top.value, g.left.value + g.width.value, g.top.value + g.height.value};
+  const Geometry& g = element.control->geometry(element.index);
+  return {g.Left.value, g.Top.value, g.Left.value + g.Width.value, g.Top.value + g.Height.value};
 }
 bool overlap(const Rectangle& a, const Rectangle& b) {
   return a.left < b.right && b.left < a.right && a.top < b.bottom && b.top < a.bottom;
@@ -63,13 +62,13 @@ TEST_F(Placement, EverySpotLiesInsideItsParent) {
   for (const Spot& spot : s.spots) {
     if (isHiddenStore(spot.parent)) continue;
     const Rectangle box = rectangleOf(spot.element);
-    const Geometry parent = geometryOf(spot.parent);
+    const Geometry& parent = spot.parent.control->geometry(spot.parent.index);
     EXPECT_LT(box.left, box.right) << nameOf(spot.element);
     EXPECT_LT(box.top, box.bottom) << nameOf(spot.element);
     EXPECT_GE(box.left, 0) << nameOf(spot.element);
     EXPECT_GE(box.top, 0) << nameOf(spot.element);
-    EXPECT_LE(box.right, parent.width.value) << nameOf(spot.element);
-    EXPECT_LE(box.bottom, parent.height.value) << nameOf(spot.element);
+    EXPECT_LE(box.right, parent.Width.value) << nameOf(spot.element);
+    EXPECT_LE(box.bottom, parent.Height.value) << nameOf(spot.element);
   }
 }
 
@@ -109,43 +108,43 @@ TEST_F(Placement, ADisplayAndAHeadingTakeNoPress) {
 TEST_F(Placement, TheCellsStandInTheirRowsAndColumnsAndShareTheirLines) {
   for (int i = 1; i <= 441; ++i) {
     const Place at = caleidoscopio::placeOf(i);
-    EXPECT_EQ(s.lblMiro[i].Left, Twips{2640.0 + 480 * at.column}) << i;
-    EXPECT_EQ(s.lblMiro[i].Top, Twips{720.0 + 480 * at.row}) << i;
-    EXPECT_EQ(s.lblMiro[i].Width, Twips{495}) << i;
-    EXPECT_EQ(s.lblMiro[i].Height, Twips{495}) << i;
+    EXPECT_EQ(s.lblMiro.geometry(i).Left, Twips{2640.0 + 480 * at.column}) << i;
+    EXPECT_EQ(s.lblMiro.geometry(i).Top, Twips{720.0 + 480 * at.row}) << i;
+    EXPECT_EQ(s.lblMiro.geometry(i).Width, Twips{495}) << i;
+    EXPECT_EQ(s.lblMiro.geometry(i).Height, Twips{495}) << i;
   }
   EXPECT_EQ(rectangleOf({&s.lblMiro, 439}).right, 12735);
   EXPECT_EQ(rectangleOf({&s.lblMiro, 439}).bottom, 10815);
 }
 
 TEST_F(Placement, ThePanelsAndOutlinesStandAtTheirDesignPlaces) {
-  const auto at = [](const auto& c, double left, double top, double width, double height) {
-    return c.Left == Twips{left} && c.Top == Twips{top} && c.Width == Twips{width} &&
-           c.Height == Twips{height};
+  const auto at = [](const Geometry& g, double left, double top, double width, double height) {
+    return g.Left == Twips{left} && g.Top == Twips{top} && g.Width == Twips{width} &&
+           g.Height == Twips{height};
   };
-  EXPECT_TRUE(at(s.FraPannello[0], 210, 240, 2255, 11055));
-  EXPECT_TRUE(at(s.FraPannello[1], 12915, 315, 2255, 11055));
-  EXPECT_TRUE(at(s.ShpContour, 2625, 725, 10110, 10095));
-  EXPECT_TRUE(at(s.ShpRettangolo, 3120, 1200, 4335, 4335));
-  EXPECT_EQ(s.FraPannello[2].Top, Twips{840});
-  EXPECT_EQ(s.FraPannello[2].Width, Twips{2255});
-  EXPECT_EQ(s.FraPannello[2].Height, Twips{9855});
+  EXPECT_TRUE(at(s.FraPannello.geometry(0), 210, 240, 2255, 11055));
+  EXPECT_TRUE(at(s.FraPannello.geometry(1), 12915, 315, 2255, 11055));
+  EXPECT_TRUE(at(s.ShpContour.geometry(), 2625, 725, 10110, 10095));
+  EXPECT_TRUE(at(s.ShpRettangolo.geometry(), 3120, 1200, 4335, 4335));
+  EXPECT_EQ(s.FraPannello.geometry(2).Top, Twips{840});
+  EXPECT_EQ(s.FraPannello.geometry(2).Width, Twips{2255});
+  EXPECT_EQ(s.FraPannello.geometry(2).Height, Twips{9855});
 }
 
 TEST_F(Placement, TheSwatchesStandInTwelveRowsFromRightToLeftAndARowOfGreys) {
   for (int i = 1; i <= 96; ++i) {
-    EXPECT_EQ(s.lblColore[i].Left, Twips{1845.0 - 240 * ((i - 1) % 8)}) << i;
-    EXPECT_EQ(s.lblColore[i].Top, Twips{480.0 + 240 * ((i - 1) / 8)}) << i;
+    EXPECT_EQ(s.lblColore.geometry(i).Left, Twips{1845.0 - 240 * ((i - 1) % 8)}) << i;
+    EXPECT_EQ(s.lblColore.geometry(i).Top, Twips{480.0 + 240 * ((i - 1) / 8)}) << i;
   }
   double left = 0;
   for (const int i : {101, 100, 99, 103, 102, 104, 98, 97}) {
-    EXPECT_GT(s.lblColore[i].Left.value, left) << i;
-    EXPECT_EQ(s.lblColore[i].Top, Twips{3360}) << i;
-    left = s.lblColore[i].Left.value;
+    EXPECT_GT(s.lblColore.geometry(i).Left.value, left) << i;
+    EXPECT_EQ(s.lblColore.geometry(i).Top, Twips{3360}) << i;
+    left = s.lblColore.geometry(i).Left.value;
   }
   for (int i = 1; i <= 104; ++i) {
-    EXPECT_EQ(s.lblColore[i].Width, Twips{195}) << i;
-    EXPECT_EQ(s.lblColore[i].Height, Twips{195}) << i;
+    EXPECT_EQ(s.lblColore.geometry(i).Width, Twips{195}) << i;
+    EXPECT_EQ(s.lblColore.geometry(i).Height, Twips{195}) << i;
   }
 }
 
@@ -162,9 +161,9 @@ TEST_F(Placement, TheHeadingsStandWhereThePanelsSectionsBegin) {
                                                      {"F - Timer Colori", 7695},
                                                      {"Memorie", 8600}};
   for (const auto& [caption, top] : headings) {
-    const Label* found = nullptr;
+    const Geometry* found = nullptr;
     for (int i = 0; i <= 19; ++i)
-      if (s.lblScritteVarie[i].Caption == caption) found = &s.lblScritteVarie[i];
+      if (s.lblScritteVarie[i].Caption == caption) found = &s.lblScritteVarie.geometry(i);
     ASSERT_TRUE(found) << caption;
     EXPECT_NEAR(found->Top.value, top, 30) << caption;
     EXPECT_GT(found->Width.value, 0) << caption;

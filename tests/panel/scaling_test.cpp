@@ -7,7 +7,6 @@
 #include <vector>
 
 #include "mosaic/index_map.h"
-#include "panel/geometry.h"
 #include "support/started_rig.h"
 
 namespace caleidoscopio::test {
@@ -17,8 +16,8 @@ struct Placed {
   double left, top, width, height, font;
 };
 Placed placedAt(const Spot& spot) {
-  const Geometry g = geometryOf(spot.element);
-  return {g.left.value, g.top.value, g.width.value, g.height.value, g.font ? g.font->value : 0};
+  const Geometry& g = spot.element.control->geometry(spot.element.index);
+  return {g.Left.value, g.Top.value, g.Width.value, g.Height.value, g.FontSize.value};
 }
 std::vector<Placed> placesOf(const Store& s) {
   std::vector<Placed> all;
@@ -46,8 +45,8 @@ void expectScaled(ScreenSize screen, double offset, double r, double h, double f
     if (name == "FraPannello(2)") continue;  // Go has placed it; told below
     EXPECT_EQ(is.left, (was.left + (spot.withField ? offset : 0)) * r) << name;
   }
-  EXPECT_EQ(scaled.s.form.Width, Twips{screen.width});
-  EXPECT_EQ(scaled.s.form.Height, Twips{screen.height});
+  EXPECT_EQ(scaled.s.form.geometry().Width, Twips{screen.width});
+  EXPECT_EQ(scaled.s.form.geometry().Height, Twips{screen.height});
 }
 
 TEST(Scaling, OnAScreenOfTheDesignsSizeNothingMoves) {
@@ -73,10 +72,10 @@ TEST(Scaling, TheWideScreenKeepsTheSizeAndCentresTheField) {
   expectScaled({20490, 11520}, 2565, 1, 1, 1);
   const StartedRig wide({20490, 11520});
   const Store& s = wide.s;
-  EXPECT_EQ(s.lblMiro[437].Left, Twips{2640 + 2565});
-  EXPECT_EQ(s.lblMiro[365].Left, s.lblMiro[437].Left + Twips{480});
-  EXPECT_EQ(s.FraPannello[1].Left, Twips{12915 + 2565});
-  EXPECT_EQ(s.FraPannello[0].Width, Twips{2255});
+  EXPECT_EQ(s.lblMiro.geometry(437).Left, Twips{2640 + 2565});
+  EXPECT_EQ(s.lblMiro.geometry(365).Left, s.lblMiro.geometry(437).Left + Twips{480});
+  EXPECT_EQ(s.FraPannello.geometry(1).Left, Twips{12915 + 2565});
+  EXPECT_EQ(s.FraPannello.geometry(0).Width, Twips{2255});
 }
 
 TEST(Scaling, AScreenAQuarterLargerStretchesAllButTheLetters) {
@@ -94,9 +93,9 @@ TEST(Scaling, AScreenThatIsOnlyWiderKeepsItsHeightAndLetters) {
 
 TEST(Scaling, PositionsAreExactProductsAndNotRounded) {
   const StartedRig scaled({20490, 10800});
-  EXPECT_EQ(scaled.s.lblMiro[1].Left.value, (2640 + 480) * (20490.0 / 15360));
-  EXPECT_EQ(scaled.s.lblMiro[1].Top.value, (720 + 480) * (10800.0 / 11520));
-  EXPECT_EQ(scaled.s.lblMiro[1].FontSize.value, 18 * (10800.0 / 16000));
+  EXPECT_EQ(scaled.s.lblMiro.geometry(1).Left.value, (2640 + 480) * (20490.0 / 15360));
+  EXPECT_EQ(scaled.s.lblMiro.geometry(1).Top.value, (720 + 480) * (10800.0 / 11520));
+  EXPECT_EQ(scaled.s.lblMiro.geometry(1).FontSize.value, 18 * (10800.0 / 16000));
 }
 
 TEST(Scaling, TheOffsetIsTakenByPanelsFieldOutlinesAndHeadingsOfTheFormAlone) {
@@ -115,9 +114,9 @@ TEST(Scaling, TheRectangleToolsMarkStaysOnItsQuadrantOnEveryScreen) {
   for (const ScreenSize screen :
        {ScreenSize{15360, 11520}, {20490, 11520}, {19200, 14400}, {20490, 10800}}) {
     const StartedRig rig(screen);
-    const Label& first = rig.s.lblMiro[leaderAt(1, 1)];
-    const Label& last = rig.s.lblMiro[leaderAt(9, 9)];
-    const Shape& mark = rig.s.ShpRettangolo;
+    const Geometry& first = rig.s.lblMiro.geometry(leaderAt(1, 1));
+    const Geometry& last = rig.s.lblMiro.geometry(leaderAt(9, 9));
+    const Geometry& mark = rig.s.ShpRettangolo.geometry();
     EXPECT_EQ(mark.Left, first.Left);
     EXPECT_EQ(mark.Top, first.Top);
     EXPECT_NEAR((mark.Left + mark.Width).value, (last.Left + last.Width).value, 1e-6);
@@ -127,9 +126,9 @@ TEST(Scaling, TheRectangleToolsMarkStaysOnItsQuadrantOnEveryScreen) {
 
 TEST(Scaling, TheLabelsParkedOutOfSightAreNotTouched) {
   const StartedRig scaled({19200, 14400});
-  EXPECT_EQ(scaled.s.lblSomma.Width.value > 0, true);
-  EXPECT_EQ(scaled.s.lblIndex.Width, Twips{0});
-  EXPECT_EQ(scaled.s.lblIndex.FontSize, Points{8});
+  EXPECT_EQ(scaled.s.lblSomma.geometry().Width.value > 0, true);
+  EXPECT_EQ(scaled.s.lblIndex.geometry().Width, Twips{0});
+  EXPECT_EQ(scaled.s.lblIndex.geometry().FontSize, Points{8});
 }
 
 TEST(Scaling, GoAndStopPlaceTheSequencersTableByTheSameRule) {
@@ -142,10 +141,10 @@ TEST(Scaling, GoAndStopPlaceTheSequencersTableByTheSameRule) {
                {{20490, 10800}, 210 * (20490.0 / 15360), 2730 * (20490.0 / 15360)}};
   for (const auto& c : cases) {
     StartedRig rig(c.screen);
-    EXPECT_EQ(rig.s.FraPannello[2].Left, Twips{c.inRun});
+    EXPECT_EQ(rig.s.FraPannello.geometry(2).Left, Twips{c.inRun});
     rig.s.lblSeq[11].BackColor = colours::selected;
     click(rig.s.cmdGoTimer);
-    EXPECT_EQ(rig.s.FraPannello[2].Left, Twips{c.stopped});
+    EXPECT_EQ(rig.s.FraPannello.geometry(2).Left, Twips{c.stopped});
   }
 }
 

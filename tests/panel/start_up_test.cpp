@@ -99,17 +99,17 @@ TEST(StartUp, TheDesignStartsAsTheDisplayOfTheDefaultMemory) {
 TEST(StartUp, PlacesTheOptionFramesOnEachOtherAndCutsTheLeftPanel) {
   const StartedRig rig;
   for (int i = 1; i <= 12; ++i) {
-    EXPECT_EQ(rig.s.FraTransf[i].Left, Twips{105});
-    EXPECT_EQ(rig.s.FraTransf[i].Top, Twips{3150});
+    EXPECT_EQ(rig.s.FraTransf.geometry(i).Left, Twips{105});
+    EXPECT_EQ(rig.s.FraTransf.geometry(i).Top, Twips{3150});
   }
-  EXPECT_EQ(rig.s.FraMemoria.Left, Twips{105});
-  EXPECT_EQ(rig.s.FraMemoria.Top, Twips{8505});
-  EXPECT_EQ(rig.s.FraPannello[0].Width, Twips{2255});
+  EXPECT_EQ(rig.s.FraMemoria.geometry().Left, Twips{105});
+  EXPECT_EQ(rig.s.FraMemoria.geometry().Top, Twips{8505});
+  EXPECT_EQ(rig.s.FraPannello.geometry(0).Width, Twips{2255});
 }
 
 TEST(StartUp, TheLeftPanelIsBuiltWiderThanItShows) {
   const Rig rig;
-  EXPECT_EQ(rig.s.FraPannello[0].Width, Twips{8760});
+  EXPECT_EQ(rig.s.FraPannello.geometry(0).Width, Twips{8760});
 }
 
 TEST(StartUp, TheCreditLineEndsInTheYearOfTheClockInFourDigits) {
@@ -182,9 +182,9 @@ TEST(StartUp, AStartThatEndsAtTheFilesHasSeededAndPlacedTheNamingBoxBefore) {
   rig.files.files.clear();
   runEndOf([&] { rig.instrument.start(); });
   EXPECT_EQ(rig.generator.seeds, 1);
-  EXPECT_EQ(rig.s.FraMemoria.Top, Twips{8505});
+  EXPECT_EQ(rig.s.FraMemoria.geometry().Top, Twips{8505});
   EXPECT_TRUE(rig.s.lblScritteVarie[9].Caption.ends_with("2026"));
-  EXPECT_EQ(rig.s.FraPannello[0].Width, Twips{8760});
+  EXPECT_EQ(rig.s.FraPannello.geometry(0).Width, Twips{8760});
 }
 
 }  // namespace

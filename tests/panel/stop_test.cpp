@@ -49,10 +49,10 @@ TEST_F(Stop, LeavesTheRepeatWhenTheLampIsOut) {
 TEST_F(Stop, BringsTheTableBackToItsPlace) {
   s.lblSeq[11].BackColor = colours::selected;
   s.FraPannello[2].Visible = false;
-  s.FraPannello[2].Left = {0};
+  s.FraPannello.geometry(2).Left = {0};
   stop();
   EXPECT_TRUE(s.FraPannello[2].Visible);
-  EXPECT_EQ(s.FraPannello[2].Left, Twips{2730});
+  EXPECT_EQ(s.FraPannello.geometry(2).Left, Twips{2730});
 }
 
 TEST_F(Stop, AnyColourOfTheTablesButtonButWhiteShowsTheTable) {
@@ -63,21 +63,21 @@ TEST_F(Stop, AnyColourOfTheTablesButtonButWhiteShowsTheTable) {
 
 TEST_F(Stop, HidesTheTableThatIsNotWantedWithoutMovingIt) {
   s.FraPannello[2].Visible = true;
-  s.FraPannello[2].Left = {210};
+  s.FraPannello.geometry(2).Left = {210};
   stop();
   EXPECT_FALSE(s.FraPannello[2].Visible);
-  EXPECT_EQ(s.FraPannello[2].Left, Twips{210});
+  EXPECT_EQ(s.FraPannello.geometry(2).Left, Twips{210});
 }
 
 TEST_F(Stop, PlacesTheTableByRatioOrByOffsetOfTheScreen) {
   s.lblSeq[11].BackColor = colours::selected;
   platform.screen = {19200, 14400};
   stop();
-  EXPECT_EQ(s.FraPannello[2].Left, Twips{2730 * 1.25});
+  EXPECT_EQ(s.FraPannello.geometry(2).Left, Twips{2730 * 1.25});
   click(s.cmdGoTimer);
   platform.screen = {20490, 11520};
   stop();
-  EXPECT_EQ(s.FraPannello[2].Left, Twips{2565 + 2730});
+  EXPECT_EQ(s.FraPannello.geometry(2).Left, Twips{2565 + 2730});
 }
 
 TEST_F(Stop, ShowsTheMarkOfTheRectangleToolOnlyWhileTheToolIsOn) {

@@ -12,8 +12,8 @@ struct StoreDefaults : testing::Test, Rig {};
 TEST_F(StoreDefaults, FormAndPanelsStandOnTheGround) {
   EXPECT_EQ(s.form.BackColor, Colour{0xD7F7FD});
   for (int i = 0; i <= 2; ++i) EXPECT_EQ(s.FraPannello[i].BackColor, Colour{0xD7F7FD});
-  EXPECT_EQ(s.form.Width, Twips{15360});
-  EXPECT_EQ(s.form.Height, Twips{11520});
+  EXPECT_EQ(s.form.geometry().Width, Twips{15360});
+  EXPECT_EQ(s.form.geometry().Height, Twips{11520});
 }
 
 TEST_F(StoreDefaults, EverythingIsStoppedAndSwitchedOut) {
@@ -28,7 +28,7 @@ TEST_F(StoreDefaults, TheDisplayPlaneHasNoDigitsAndOneColour) {
     EXPECT_EQ(s.lblMiro[i].Caption, "");
     EXPECT_EQ(s.lblMiro[i].BackColor, Colour{0xC0C000});
     EXPECT_EQ(s.lblMiro[i].ForeColor, Colour{0x000000});
-    EXPECT_EQ(s.lblMiro[i].FontSize, Points{18});
+    EXPECT_EQ(s.lblMiro.geometry(i).FontSize, Points{18});
   }
   EXPECT_EQ(s.lblVoceOpzioni[2].Caption, "N");
   EXPECT_EQ(s.lblVoceOpzioni[3].Caption, "S");

@@ -142,7 +142,7 @@ struct TableShown : SequencerRig {
   static constexpr int button = 11;
   void place(double width, double height) {
     platform.screen = {width, height};
-    s.FraPannello[2].Left = {1};
+    s.FraPannello.geometry(2).Left = {1};
   }
 };
 
@@ -170,11 +170,11 @@ TEST_F(TableShown, WithHideSelectedItIsPlacedOverTheFieldsLeftSideOnAnyScreen) {
     for (int visible = 0; visible < 2; ++visible) {
       place(one.width, one.height);
       press(s.lblSeq, button);
-      EXPECT_DOUBLE_EQ(s.FraPannello[2].Left.value, one.left) << one.width;
+      EXPECT_DOUBLE_EQ(s.FraPannello.geometry(2).Left.value, one.left) << one.width;
     }
     place(one.width, one.height);
     press(s.lblSeq, button);  // hidden: it stays where it is
-    EXPECT_EQ(s.FraPannello[2].Left.value, 1);
+    EXPECT_EQ(s.FraPannello.geometry(2).Left.value, 1);
   }
 }
 
@@ -183,7 +183,7 @@ TEST_F(TableShown, WithHideUnselectedItStaysWhereItIs) {
   place(15360, 11520);
   for (int i = 0; i < 3; ++i) {
     press(s.lblSeq, button);
-    EXPECT_EQ(s.FraPannello[2].Left.value, 1);
+    EXPECT_EQ(s.FraPannello.geometry(2).Left.value, 1);
   }
 }
 
@@ -200,14 +200,14 @@ TEST_F(TableShown, GoHidesItInTheFirstStateAndMovesItToTheEdgeInTheSecond) {
   EXPECT_FALSE(s.FraPannello[2].Visible);
   click(s.cmdGoTimer);
   EXPECT_TRUE(s.FraPannello[2].Visible);
-  EXPECT_EQ(s.FraPannello[2].Left.value, 2730);
+  EXPECT_EQ(s.FraPannello.geometry(2).Left.value, 2730);
 
   press(s.lblSeq, button);
   click(s.cmdGoTimer);
   EXPECT_TRUE(s.FraPannello[2].Visible);
-  EXPECT_EQ(s.FraPannello[2].Left.value, 210);
+  EXPECT_EQ(s.FraPannello.geometry(2).Left.value, 210);
   click(s.cmdGoTimer);
-  EXPECT_EQ(s.FraPannello[2].Left.value, 2730);
+  EXPECT_EQ(s.FraPannello.geometry(2).Left.value, 2730);
 
   press(s.lblSeq, button);
   click(s.cmdGoTimer);

@@ -21,7 +21,7 @@ inline Snapshot snapshotOf(const Store& s) {
         line += '.';
         line += property.name;
         line += ' ';
-        line += toText(property.of(control->element(i)));
+        line += toText(property.of(*control, i));
         lines.push_back(std::move(line));
       }
   return lines;
