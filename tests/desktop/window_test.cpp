@@ -5,7 +5,6 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTimer>
-#include <set>
 
 #include "desktop/tool_tips.h"
 #include "desktop/window_rig.h"
@@ -61,38 +60,6 @@ TEST_P(Sizes, EveryCaptionIsShownWhole) {
   WindowRig rig(width, height);
   for (const ControlWidget* control : rig.window->findChildren<ControlWidget*>())
     EXPECT_TRUE(control->showsWholeCaption()) << control->objectName().toStdString();
-}
-
-/// Each panel that lies over others in turn: the option frames, the naming box, the table.
-void eachSurface(WindowRig& rig, const std::function<void()>& look) {
-  for (int shown = 0; shown <= 12; ++shown) {
-    for (int i = 1; i <= 12; ++i) rig.s().FraTransf[i].Visible = i == shown;
-    rig.s().FraPannello[2].Visible = shown == 0;
-    rig.s().FraMemoria.Visible = shown == 1;
-    rig.window->mirror();
-    look();
-  }
-}
-
-TEST_P(Sizes, EveryButtonThatIsShownIsReachedAtItsMiddle) {
-  const auto [width, height] = GetParam();
-  WindowRig rig(width, height);
-  std::set<QString> reached;
-  eachSurface(rig, [&] {
-    for (ControlWidget* control : rig.window->findChildren<ControlWidget*>()) {
-      if (!control->isButton() || !control->isVisible()) continue;
-      const QPoint middle = control->mapTo(&*rig.window, control->rect().center());
-      if (rig.window->childAt(middle) == control) reached.insert(control->objectName());
-      // The naming box lies over the memories while it is open, and over nothing else.
-      const bool underTheBox = rig.s().FraMemoria.Visible &&
-                               rig.widget("FraMemoria").geometry().contains(control->geometry());
-      EXPECT_TRUE(rig.window->childAt(middle) == control || underTheBox)
-          << control->objectName().toStdString();
-    }
-  });
-  for (const ControlWidget* control : rig.window->findChildren<ControlWidget*>())
-    EXPECT_TRUE(!control->isButton() || reached.contains(control->objectName()))
-        << control->objectName().toStdString();
 }
 
 TEST_P(Sizes, NoLetterIsBelowNinePixels) {
