@@ -2,6 +2,8 @@
 
 #include <string_view>
 
+#include "break/patterns.h"
+
 namespace caleidoscopio {
 
 namespace {
@@ -70,6 +72,8 @@ constexpr Tip tips[] = {
     {"lblCrea", 10, 10, "Fondo nuovo per il disegno dei Break"},
     {"lblCrea", 11, 11, "Punti nel campo: al massimo, a caso"},
     {"lblAngoli", 0, 0, "Angolo della prossima figura: in senso orario, antiorario o a caso"},
+    {"lblAngolo", 20, 20, "Angolo dell'ultima figura, da 1 a 4"},
+    {"lblAngolo", 21, 21, "Misura dell'ultima figura, da 1 a 8"},
     {"lblLung", 1, 8, "Lunghezza ammessa per i tratti"},
     {"lblColNumber", 0, 0, "Quanti colori usa la linea"},
     {"lblMinMax", 1, 1, "Sempre il colore più raro"},
@@ -91,8 +95,11 @@ constexpr Tip tips[] = {
     {"lblRndC", 2, 2, "Colori nuovi più di rado"},
     {"lblColCornice", 0, 0, "Da quanti colori si sceglie quello nuovo"},
 
-    // break; the pattern buttons tell what they are on the line below them
+    // break
     {"Command7", 0, 0, "Avvia un Break"},
+    {"lblBreakMode", 13, 13, "Sceglie tutti i modi di Break"},
+    {"lblBreakMode", 14, 14, "Direzione dei Break: Out, In, a caso o alternata"},
+    {"lblBreakMode", 20, 20, "Che cosa fa il bottone sotto il puntatore"},
     {"lblBreakMode", 16, 16, "Tempo di Ripresa Timer"},
     {"lblBreakMode", 18, 18, "Colori di transizione"},
     {"lblBreakMode", 19, 19, "Crea Disegno"},
@@ -126,6 +133,13 @@ constexpr Tip tips[] = {
     {"lblTmrRndCol", 3, 3, "Aggiunta secondi random"},
 
     // sequencer
+    {"lblScritteVarie", 12, 12, "Colonna del Timer A, Shift"},
+    {"lblScritteVarie", 13, 13, "Colonna del Timer B, Transform"},
+    {"lblScritteVarie", 19, 19, "Colonna del Timer C, Frame"},
+    {"lblNOrdine", 1, 24, "Passo del programma"},
+    {"lblTmrA", 1, 24, "Shift di questo passo"},
+    {"lblTmrB", 1, 24, "Transform di questo passo"},
+    {"lblTmrC", 1, 24, "Croce e cornice di questo passo"},
     {"lblSeq", 0, 0, "Durata di un passo, in millisecondi"},
     {"lblSeq", 1, 1, "Passi più brevi: tieni premuto"},
     {"lblSeq", 2, 2, "Passi più lunghi: tieni premuto"},
@@ -169,6 +183,7 @@ constexpr Tip tips[] = {
     {"lblSelez", 0, 0, "Nome della memoria corrente"},
     {"lblSave", 0, 9, "Memoria: un clic la carica, o la salva con Save acceso"},
     {"lblSave", 11, 15, "Memoria fissa: un clic la carica"},
+    {"lblComb", 0, 105, "Memoria senza titolo"},
     {"lblMemo", 0, 0, "Banco di dieci memorie"},
     {"lblMemo", 1, 1, "Banco precedente: tieni premuto"},
     {"lblMemo", 2, 2, "Banco seguente: tieni premuto"},
@@ -182,8 +197,10 @@ constexpr Tip tips[] = {
 };
 // clang-format on
 
-/// The title of the memory that a button stands for, or null for anything else.
+/// The title of the memory that a button or a line of the list stands for, or null for anything
+/// else.
 const std::string* titleUnder(const Store& s, Element element) {
+  if (element.control == &s.lblComb) return &s.lblComb[element.index].Caption;
   if (element.control != &s.lblSave || element.index == 10) return nullptr;
   if (element.index > 10) return &s.lblComb[element.index + 90].Caption;
   const auto bank = wholeNumber(s.lblMemo[0].Caption);
@@ -194,6 +211,9 @@ const std::string* titleUnder(const Store& s, Element element) {
 }  // namespace
 
 QString toolTipOf(const Store& s, Element element) {
+  if (element.control == &s.lblBreakMode)
+    if (const BreakPattern* pattern = findBreakPattern(element.index))
+      return QString::fromUtf8(pattern->name.data(), static_cast<qsizetype>(pattern->name.size()));
   if (const std::string* title = titleUnder(s, element); title && !title->empty())
     return QString::fromStdString(*title);
   for (const Tip& tip : tips)

@@ -91,15 +91,17 @@ INSTANTIATE_TEST_SUITE_P(Screens, Sizes,
                                          std::pair{1920, 1080}, std::pair{2560, 1440},
                                          std::pair{3840, 2160}));
 
-TEST(Window, EveryPlacedControlThatTakesAPressHasAToolTip) {
+TEST(Window, EveryControlThatAPersonUsesHasAToolTipAndTheSameAccessibleName) {
   WindowRig rig;
-  for (const ControlWidget* control : rig.window->findChildren<ControlWidget*>()) {
-    const Element e = control->element();
-    const std::string name = control->objectName().toStdString();
-    // The pattern buttons tell on the line below them what they are.
-    if (name.starts_with("lblBreakMode(")) continue;
-    EXPECT_TRUE(!control->isButton() || !toolTipOf(rig.s(), e).isEmpty()) << name;
-    EXPECT_EQ(control->toolTip(), toolTipOf(rig.s(), e)) << name;
+  for (const Spot& spot : rig.s().spots) {
+    const auto* widget = rig.window->findChild<ControlWidget*>(
+        QString::fromStdString(spot.element.control->nameOf(spot.element.index)));
+    if (!widget) continue;
+    const std::string name = widget->objectName().toStdString();
+    const bool used = widget->isButton() || spot.look == Look::Display;
+    EXPECT_TRUE(!used || !widget->toolTip().isEmpty()) << name;
+    EXPECT_EQ(widget->toolTip(), toolTipOf(rig.s(), spot.element)) << name;
+    EXPECT_EQ(widget->accessibleName(), widget->toolTip()) << name;
   }
 }
 
