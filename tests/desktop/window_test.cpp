@@ -53,6 +53,38 @@ TEST(Window, ATickThatChangesNothingPaintsNoCell) {
   EXPECT_EQ(rig.field().paintedCells(), before + 4);
 }
 
+/// How often the window is painted while `act` and what follows from it runs.
+class Repaints : public QObject {
+ public:
+  explicit Repaints(QObject& window) { window.installEventFilter(this); }
+  int count = 0;
+
+ private:
+  bool eventFilter(QObject*, QEvent* event) override {
+    count += event->type() == QEvent::UpdateRequest;
+    return false;
+  }
+};
+
+TEST(Window, ThePanelsHideAndShowInOneRepaint) {
+  WindowRig rig;
+  rig.click("cmdGoTimer");  // the start ended in a run
+  QTest::qWait(50);
+  rig.s().lblHide.BackColor = colours::selected;
+  {
+    Repaints repaints(*rig.window);
+    rig.click("cmdGoTimer");
+    QTest::qWait(50);
+    ASSERT_FALSE(rig.widget("FraPannello(0)").isVisible());
+    EXPECT_EQ(repaints.count, 1);
+  }
+  Repaints repaints(*rig.window);
+  QTest::keyClick(&*rig.window, Qt::Key_Space);
+  QTest::qWait(50);
+  ASSERT_TRUE(rig.widget("FraPannello(0)").isVisible());
+  EXPECT_EQ(repaints.count, 1);
+}
+
 class Sizes : public testing::TestWithParam<std::pair<int, int>> {};
 
 TEST_P(Sizes, EveryCaptionIsShownWhole) {
