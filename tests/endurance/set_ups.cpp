@@ -26,7 +26,7 @@ void pressUntil(const Control& control, int index, const Label& value, const cha
   while (value.Caption != wanted) test::pressAndRelease(control, index);
 }
 
-/// A value of the panel and the shortest that its buttons can set.
+/// An interval, a spread of intervals or a wait, and the least that the panel can set.
 struct Shortest {
   Label& value;
   const char* ms;
@@ -102,8 +102,8 @@ void stepToShortest(Store& s) {
   pressUntil(s.lblBreakMode, 22, s.lblBreakMode[16], "0");
 }
 
-bool atShortest(const Store& s) {
-  for (const Shortest& shortest : shortestOf(const_cast<Store&>(s)))
+bool atShortest(Store& s) {
+  for (const Shortest& shortest : shortestOf(s))
     if (shortest.value.Caption != shortest.ms) return false;
   return true;
 }

@@ -19,7 +19,7 @@ void writeProgramme(Store& s);
 void stepToShortest(Store& s);
 
 /// True with A, B, C and E at 10 ms, F at 50 and D at 100.
-bool atShortest(const Store& s);
+bool atShortest(Store& s);
 
 /// Brings a run back to where stepToShortest had it, whatever was pressed meanwhile: all timers
 /// in, at their shortest, with no step of the programme OFF, and running.
