@@ -238,12 +238,12 @@ const Panel panels[] = {
         {"lblMemo", {2, 1}, {left + 1560, 10035, quarter, line}, Stepper},
         {"lblCanc", {0, 1}, {left, 10335, third, line}, Choice},
         {"lblComandiVari", {1, 2}, {left + 690, 10335, third, line}, Choice, 8, {690, 0, 2}},
-        {"FraMemoria", {0, 1}, {0, 0, full, 2175}, Ground},
+        {"FraMemoria", {0, 1}, {0, 0, full, 1800}, Ground},
     }},
     {"FraMemoria", false, {
-        {"lblScritteVarie", {41, 1}, {90, 60, 1860, 780}, Heading},
-        {"TxtNomeMemoria", {0, 1}, {90, 960, 1860, 330}, Display},
-        {"lblSalvaComb", {0, 2}, {90, 1560, 900, 300}, Button, 8, {960, 0, 2}},
+        {"lblScritteVarie", {41, 1}, {90, 60, 1860, 690}, Heading},
+        {"TxtNomeMemoria", {0, 1}, {90, 840, 1860, 330}, Display},
+        {"lblSalvaComb", {0, 2}, {90, 1350, 900, 300}, Button, 8, {960, 0, 2}},
     }},
     // The sequencer's table: 24 rows and their tools, then the titles of the bank and the presets.
     {"FraPannello(2)", false, {

@@ -7,12 +7,14 @@ namespace caleidoscopio {
 // The life of a Break. The engines stand still while it sweeps and waits; what runs again after it
 // is always decided by a complete Go, never by the Break itself.
 //
-//   stopped or running --Command7 or TmrBrk--> SWEEPING --the tick that finds lblBreak at "1"-->
-//   end end: repeat, no wait         -> SWEEPING again, at once
-//        a wait in (16)          -> WAITING, until TmrAspetta fires
-//        neither                 -> Go if the instrument was running, else stopped
-//   WAITING: repeat              -> SWEEPING
-//            no repeat           -> as above
+//   stopped or running --Command7 or TmrBrk--> SWEEPING
+//   SWEEPING --the tick that finds lblBreak at "1"--> its end:
+//     repeat, no wait  -> SWEEPING again, at once
+//     a wait in (16)   -> WAITING, until TmrAspetta fires
+//     neither          -> Go if the instrument was running, else stopped
+//   WAITING --TmrAspetta-->
+//     repeat           -> SWEEPING
+//     no repeat        -> Go if the instrument was running, else stopped
 //
 // TmrBrk is not stopped by a Break started by hand: it can fire in mid-sweep and start anew over
 // the sweep under way. That is accepted; the earlier pattern's button is cleared at the end.

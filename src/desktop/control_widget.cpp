@@ -2,6 +2,7 @@
 
 #include <QMouseEvent>
 #include <QPainter>
+#include <QTextDocument>
 #include <algorithm>
 
 #include "desktop/looks.h"
@@ -49,7 +50,7 @@ ControlWidget::ControlWidget(const Spot& spot, Hand& hand, Driver& driver, QWidg
   setMouseTracking(spot.element.control->handles(Event::MouseMove, spot.element.index));
   if (takesPress_) setCursor(Qt::PointingHandCursor);
   // The headings around the field are part of the bare form.
-  if (spot.look == Look::Heading && spot.withField) setAttribute(Qt::WA_TransparentForMouseEvents);
+  if (spot.look == Look::Title && spot.withField) setAttribute(Qt::WA_TransparentForMouseEvents);
   mirror();
 }
 
@@ -62,8 +63,9 @@ void ControlWidget::mirror() {
   const double points = spot_.element.control->geometry(spot_.element.index).FontSize.value;
   place(*this, spot_.element);
   if (isEnabled() != now.Enabled) setEnabled(now.Enabled);
-  if (const QString tip = toolTipOf(driver_.store(), spot_.element); tip != toolTip()) {
-    setToolTip(tip);
+  if (const QString tip = toolTipOf(driver_.store(), spot_.element); tip != accessibleName()) {
+    // A title can look like markup; it is shown as it was typed.
+    setToolTip(Qt::mightBeRichText(tip) ? tip.toHtmlEscaped() : tip);
     setAccessibleName(tip);
   }
   if (caption_ == now.Caption && back_ == now.BackColor && fore_ == now.ForeColor &&

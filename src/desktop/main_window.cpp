@@ -86,6 +86,7 @@ void showFault(const QString& message, QWidget* parent) {
   QMessageBox box(QMessageBox::Critical, QStringLiteral("Caleidoscopio"), message, QMessageBox::Ok,
                   parent);
   box.setObjectName(QStringLiteral("fault"));
+  box.setTextFormat(Qt::PlainText);  // what was found in a file is shown as it is
   box.exec();
 }
 

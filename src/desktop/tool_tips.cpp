@@ -49,7 +49,7 @@ constexpr Tip tips[] = {
     {"lblSposta", 10, 10, "Zig-Zag Verticale"},
     {"lblSposta", 11, 11, "Zig-Zag H a 3"},
     {"lblSposta", 12, 12, "Zig-Zag V a 3"},
-    {"lblOraria", 0, 0, "Verso dello spostamento: In verso il centro, Out verso la cornice"},
+    {"lblOraria", 0, 0, "Direzione: In verso il centro, Out verso la cornice"},
     {"lblSomma", 0, 0, "Codice dello spostamento"},
     {"lblSyncro", 0, 0, "Stessa velocità per tutti gli spostamenti"},
 
@@ -59,7 +59,7 @@ constexpr Tip tips[] = {
     {"lblTransf", 3, 3, "Lineare: una linea che cammina e si inverte agli incroci"},
     {"lblTransf", 4, 4, "Traccia: un colore che si allarga ai vicini"},
     {"lblTransf", 5, 5, "Aggrega: coppie che prendono un colore dei vicini"},
-    {"lblTransf", 6, 6, "Scambia: coppie di celle che si scambiano"},
+    {"lblTransf", 6, 6, "Scambia: coppie di celle che si scambiano di posto"},
     {"lblCrea", 1, 1, "Rettangoli: numero minimo"},
     {"lblCrea", 2, 2, "Rettangoli: quanti in più, a caso"},
     {"lblCrea", 3, 3, "Punti sulla croce: numero minimo"},
@@ -73,7 +73,7 @@ constexpr Tip tips[] = {
     {"lblCrea", 11, 11, "Punti nel campo: al massimo, a caso"},
     {"lblAngoli", 0, 0, "Angolo della prossima figura: in senso orario, antiorario o a caso"},
     {"lblAngolo", 20, 20, "Angolo dell'ultima figura, da 1 a 4"},
-    {"lblAngolo", 21, 21, "Misura dell'ultima figura, da 1 a 8"},
+    {"lblAngolo", 21, 21, "Dimensione dell'ultima figura, da 1 a 8"},
     {"lblLung", 1, 8, "Lunghezza ammessa per i tratti"},
     {"lblColNumber", 0, 0, "Quanti colori usa la linea"},
     {"lblMinMax", 1, 1, "Sempre il colore più raro"},
@@ -82,7 +82,7 @@ constexpr Tip tips[] = {
     {"lblMinMax", 4, 4, "Più spesso il colore più frequente"},
     {"lblMinMax", 5, 5, "Sempre il colore più frequente"},
     {"lblOpzAggrega", 0, 0, "Posto della coppia: a caso o in ordine"},
-    {"lblOpzAggrega", 1, 1, "Posizione della coppia: orizzontale, verticale o a caso"},
+    {"lblOpzAggrega", 1, 1, "Orientamento della coppia: orizzontale, verticale o a caso"},
     {"lblAgg2", 0, 0, "Cella di partenza: un clic torna alla prima"},
     {"lblNScambi", 0, 0, "Scambi a ogni passo, da 1 a 12"},
 
@@ -90,30 +90,30 @@ constexpr Tip tips[] = {
     {"lblCorniceOpzio", 1, 1, "Moto della croce: Off, Out o In"},
     {"lblCorniceOpzio", 2, 2, "Moto della cornice: Off, Out o In"},
     {"lblRandomC", 0, 0, "Colori nuovi nella croce e nella cornice"},
-    {"lblRndC", 0, 0, "Un colore nuovo ogni tanti passi, in media"},
+    {"lblRndC", 0, 0, "Ogni quanti passi, in media, entra un colore nuovo"},
     {"lblRndC", 1, 1, "Colori nuovi più spesso"},
     {"lblRndC", 2, 2, "Colori nuovi più di rado"},
-    {"lblColCornice", 0, 0, "Da quanti colori si sceglie quello nuovo"},
+    {"lblColCornice", 0, 0, "Tra quanti colori si sceglie quello nuovo"},
 
     // break
     {"Command7", 0, 0, "Avvia un Break"},
     {"lblBreakMode", 13, 13, "Sceglie tutti i modi di Break"},
     {"lblBreakMode", 14, 14, "Direzione dei Break: Out, In, a caso o alternata"},
-    {"lblBreakMode", 20, 20, "Che cosa fa il bottone sotto il puntatore"},
+    {"lblBreakMode", 20, 20, "Che cosa fa il pulsante sotto il puntatore"},
     {"lblBreakMode", 16, 16, "Tempo di Ripresa Timer"},
     {"lblBreakMode", 18, 18, "Colori di transizione"},
     {"lblBreakMode", 19, 19, "Crea Disegno"},
     {"lblBreakMode", 21, 21, "Ripeti"},
     {"lblBreakMode", 22, 22, "Ripresa più breve"},
     {"lblBreakMode", 23, 23, "Ripresa più lunga"},
-    {"lblBreakMode", 24, 24, "Ordine dei Break: in fila o a caso"},
+    {"lblBreakMode", 24, 24, "Ordine dei Break: in sequenza o a caso"},
     {"lblBreakMode", 26, 26, "Modifica Colori"},
     {"lblTmrBreak", 0, 0, "Velocità di transizione"},
     {"lblTmrBreak", 1, 1, "Transizione più veloce: tieni premuto"},
     {"lblTmrBreak", 2, 2, "Transizione più lenta: tieni premuto"},
     {"lblBrk", 0, 0, "Intervallo tra i Break, in millisecondi"},
-    {"lblBrk", 1, 1, "Break più fitti: tieni premuto"},
-    {"lblBrk", 2, 2, "Break più radi: tieni premuto"},
+    {"lblBrk", 1, 1, "Break più frequenti: tieni premuto"},
+    {"lblBrk", 2, 2, "Break più rari: tieni premuto"},
     {"lblBrk", 3, 3, "Variazioni dell'intervallo, di un secondo l'una"},
 
     // colours
@@ -128,8 +128,8 @@ constexpr Tip tips[] = {
     {"lblCambioCol", 11, 11, "Ripetizioni"},
     {"lblNSc", 0, 0, "Numero Colori"},
     {"lblTmrRndCol", 0, 0, "Intervallo tra i cambi di colore, in millisecondi"},
-    {"lblTmrRndCol", 1, 1, "Cambi più fitti: tieni premuto"},
-    {"lblTmrRndCol", 2, 2, "Cambi più radi: tieni premuto"},
+    {"lblTmrRndCol", 1, 1, "Cambi più frequenti: tieni premuto"},
+    {"lblTmrRndCol", 2, 2, "Cambi più rari: tieni premuto"},
     {"lblTmrRndCol", 3, 3, "Aggiunta secondi random"},
 
     // sequencer
@@ -143,14 +143,14 @@ constexpr Tip tips[] = {
     {"lblSeq", 0, 0, "Durata di un passo, in millisecondi"},
     {"lblSeq", 1, 1, "Passi più brevi: tieni premuto"},
     {"lblSeq", 2, 2, "Passi più lunghi: tieni premuto"},
-    {"lblSeq", 3, 3, "Colonna in lavoro: A, B o C"},
+    {"lblSeq", 3, 3, "Colonna su cui si lavora: A, B o C"},
     {"lblSeq", 4, 4, "Passo corrente"},
     {"lblSeq", 5, 5, "Numero dei passi: tieni premuto"},
-    {"lblSeq", 6, 6, "Cancella il passo nella colonna in lavoro"},
+    {"lblSeq", 6, 6, "Cancella il passo nella colonna su cui si lavora"},
     {"lblSeq", 7, 7, "Memorizza nel passo quello che il pannello mostra"},
     {"lblSeq", 9, 9, "Riempie di OFF la colonna A"},
     {"lblSeq", 10, 10, "Riempie di OFF la colonna B"},
-    {"lblSeq", 11, 11, "Mostra la tabella dei passi: no, da fermi, sempre"},
+    {"lblSeq", 11, 11, "Mostra la tabella dei passi: mai, solo da fermo, sempre"},
     {"lblSeq", 13, 13, "Riempie di OFF la colonna C"},
     {"lblAvanza", 0, 0, "Passo precedente: tieni premuto"},
     {"lblAvanza", 1, 1, "Passo seguente: tieni premuto"},
@@ -158,12 +158,12 @@ constexpr Tip tips[] = {
     {"lblNOrdine", 25, 25, "Riempie di OFF tutte e tre le colonne"},
 
     // slots and palette
-    {"lblColore", 1, 104, "Dà questo colore a quello attivo, al fondo, ai titoli o al contorno"},
+    {"lblColore", 1, 104, "Dà questa tinta al colore attivo, al fondo, ai titoli o al contorno"},
     {"lblValore", 0, 6, "Colore con cui si dipinge"},
     {"lblSfondo", 0, 6, "Colore di fondo: un secondo clic riempie"},
     {"lblPiù", 0, 6, "Cifra del colore: tieni premuto"},
     {"lblValAttivo", 0, 0, "Colore attivo"},
-    {"lblTotali", 0, 24, "Matrice di prova: un clic prende il colore attivo"},
+    {"lblTotali", 0, 24, "Matrice di prova: un clic la colora con il colore attivo"},
     {"lblSelSfondo", 0, 0, "Il fondo vale per il campo"},
     {"lblSelSfondo", 1, 1, "Il fondo vale per la croce e la cornice"},
     {"lblSelSfondo", 2, 2, "Il fondo vale per tutto"},
@@ -187,9 +187,9 @@ constexpr Tip tips[] = {
     {"lblMemo", 0, 0, "Banco di dieci memorie"},
     {"lblMemo", 1, 1, "Banco precedente: tieni premuto"},
     {"lblMemo", 2, 2, "Banco seguente: tieni premuto"},
-    {"lblCanc", 0, 0, "Il prossimo clic su una memoria la cancella"},
+    {"lblCanc", 0, 0, "Il prossimo clic su una memoria occupata la cancella"},
     {"lblComandiVari", 1, 1, "Il prossimo clic su una memoria la salva"},
-    {"lblComandiVari", 2, 2, "Salva tutto ed esce"},
+    {"lblComandiVari", 2, 2, "Salva lo stato attuale e i titoli, ed esce"},
     {"TxtNomeMemoria", 0, 0, "Titolo della memoria: Invio la salva"},
     {"lblSalvaComb", 0, 0, "Salva con questo nome"},
     {"lblSalvaComb", 1, 1, "Non salva"},
@@ -204,8 +204,8 @@ const std::string* titleUnder(const Store& s, Element element) {
   if (element.control != &s.lblSave || element.index == 10) return nullptr;
   if (element.index > 10) return &s.lblComb[element.index + 90].Caption;
   const auto bank = wholeNumber(s.lblMemo[0].Caption);
-  const int n = element.index + 10 * bank.value_or(-1);
-  return s.lblComb.contains(n) ? &s.lblComb[n].Caption : nullptr;
+  const std::int64_t n = element.index + 10 * std::int64_t{bank.value_or(-1)};
+  return 0 <= n && n <= 99 ? &s.lblComb[n].Caption : nullptr;
 }
 
 }  // namespace

@@ -15,7 +15,16 @@ namespace caleidoscopio {
 
 namespace {
 constexpr int enterKey = 13;
+
+/// A title is one line of a file, and the clipboard holds more than one.
+QString oneLine(QString typed) {
+  for (QChar& letter : typed)
+    if (letter == '\n' || letter == '\r' || letter == QChar::LineSeparator ||
+        letter == QChar::ParagraphSeparator)
+      letter = ' ';
+  return typed;
 }
+}  // namespace
 
 NamingBox::NamingBox(const Spot& spot, Driver& driver, QWidget* parent)
     : QLineEdit(parent), spot_(spot), driver_(driver) {
@@ -24,7 +33,7 @@ NamingBox::NamingBox(const Spot& spot, Driver& driver, QWidget* parent)
   setToolTip(toolTipOf(driver.store(), spot.element));
   setAccessibleName(toolTip());
   connect(this, &QLineEdit::textEdited, this,
-          [this](const QString& typed) { box().Text = typed.toStdString(); });
+          [this](const QString& typed) { box().Text = oneLine(typed).toStdString(); });
   mirror();
 }
 
@@ -49,6 +58,10 @@ void NamingBox::keyPressEvent(QKeyEvent* event) {
     QLineEdit::keyPressEvent(event);
   // What the box has no use for is not the form's either: a key typed here stops no run.
   event->accept();
+}
+
+bool NamingBox::focusNextPrevChild(bool) {
+  return false;  // a tab is a key like others: it must not carry what is typed after it to the form
 }
 
 void NamingBox::showEvent(QShowEvent* event) {

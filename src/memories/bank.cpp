@@ -3,6 +3,7 @@
 #include "memories/memory_files.h"
 #include "mosaic/tools.h"
 #include "panel/numbers.h"
+#include "panel/properties.h"
 
 namespace caleidoscopio {
 
@@ -89,8 +90,9 @@ void clickNumbered(MemoryControls& s, int k) {
 }  // namespace
 
 void showTitlesOfBank(MemoryControls& s) {
-  const std::int64_t bank = number(s, s.lblMemo[0]);
-  for (int n = 0; n <= 99; ++n) s.lblComb[n].Visible = n / 10 == bank;
+  // A caption that is no bank shows none; where a bank is needed, number() says what is wrong.
+  const auto bank = wholeNumber(s.lblMemo[0].Caption);
+  for (int n = 0; n <= 99; ++n) s.lblComb[n].Visible = bank == n / 10;
 }
 
 void lblSave_Click(MemoryControls& s, int k) {

@@ -86,7 +86,7 @@ void Control::raise(Event event, int index, int argument) const {
   if (const Tied* tied = tiedTo(event, index)) tied->run(argument);
 }
 
-void Control::outside(int index) const {
+void Control::outside(std::int64_t index) const {
   endRun(std::string(name_) + "(" + std::to_string(index) + "): no such element; expected " +
          std::to_string(first_) + " to " + std::to_string(last_));
 }

@@ -150,7 +150,7 @@ class Control {
   Control(Group& group, std::string_view name, Kind kind, int first, int last, bool single,
           void* elements, std::size_t stride, Geometry* geometry);
   ~Control() = default;
-  [[noreturn]] void outside(int index) const;
+  [[noreturn]] void outside(std::int64_t index) const;
 
  private:
   struct Tied {
@@ -187,7 +187,7 @@ class Row : public Control {
   /// Ends the run with the array's name and the index when the index lies outside.
   T& operator[](std::int64_t index) {
     if (index < First || index > Last) [[unlikely]]
-      outside(static_cast<int>(index));
+      outside(index);
     return elements_[index - First];
   }
   const T& operator[](std::int64_t index) const { return const_cast<Row&>(*this)[index]; }

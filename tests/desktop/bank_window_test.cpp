@@ -1,6 +1,9 @@
 #include <gtest/gtest.h>
 
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QLineEdit>
+#include <algorithm>
 
 #include "desktop/window_rig.h"
 
@@ -58,6 +61,47 @@ TEST_F(BankWindow, WhileTheBoxHasTheFocusKeysAreTheBoxsAlone) {
   for (const Qt::Key key : {Qt::Key_X, Qt::Key_Escape, Qt::Key_Shift, Qt::Key_Up})
     QTest::keyClick(&box(), key);
   EXPECT_EQ(rig.s().cmdGoTimer.BackColor, colours::running);
+}
+
+TEST_F(BankWindow, LinesThatArePastedBecomeOneTitle) {
+  rig.click("lblComandiVari(1)");
+  rig.click("lblSave(3)");
+  QGuiApplication::clipboard()->setText("uno\ndue\r\ntre");
+  box().paste();
+  QTest::keyClick(&box(), Qt::Key_Return);
+  const std::string title = rig.s().lblComb[3].Caption;
+  EXPECT_EQ(title.find_first_of("\n\r"), std::string::npos) << title;
+  EXPECT_TRUE(title.starts_with("uno due")) << title;
+  rig.click("lblComandiVari(2)");  // Esc saves the list
+  const std::string& names = rig.files.files["Miro-Vel-Ta/Dati/Memorie.txt"];
+  EXPECT_EQ(std::count(names.begin(), names.end(), '\n'), 231);
+}
+
+TEST_F(BankWindow, ATabCarriesNothingOutOfTheBox) {
+  rig.click("lblComandiVari(1)");
+  rig.click("lblSave(3)");
+  for (const Qt::Key key : {Qt::Key_Tab, Qt::Key_Backtab}) {
+    QTest::keyClick(rig.window->windowHandle(), key);
+    EXPECT_EQ(rig.window->focusWidget(), &box());
+  }
+  QTest::keyClicks(rig.window->focusWidget(), "mare");
+  EXPECT_EQ(rig.s().TxtNomeMemoria.Text, "mare");
+}
+
+TEST_F(BankWindow, CancSaveAndEscStayInReachOfTheMouseWhileTheBoxIsOpen) {
+  rig.click("lblComandiVari(1)");
+  rig.click("lblSave(3)");
+  for (const char* name : {"lblCanc", "lblComandiVari(1)", "lblComandiVari(2)"}) {
+    const QWidget& widget = rig.widget(name);
+    EXPECT_EQ(rig.window->childAt(widget.mapTo(&*rig.window, widget.rect().center())), &widget)
+        << name;
+  }
+}
+
+TEST_F(BankWindow, ATitleThatLooksLikeMarkupIsShownAsItWasTyped) {
+  saveUnder("lblSave(4)", "<b>mare</b>");
+  EXPECT_EQ(rig.widget("lblSave(4)").toolTip(), "&lt;b&gt;mare&lt;/b&gt;");
+  EXPECT_EQ(rig.widget("lblSave(4)").accessibleName(), "<b>mare</b>");
 }
 
 TEST_F(BankWindow, AfterTheBoxClosesAnyKeyStopsARunAgain) {

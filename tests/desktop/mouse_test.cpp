@@ -149,6 +149,19 @@ TEST(Mouse, AClickOnTheBareFormStopsAHiddenRunAndShowsThePanels) {
   EXPECT_EQ(rig.s().cmdGoTimer.BackColor, colours::idle);
 }
 
+TEST(Mouse, TheHeadingsAroundTheFieldArePartOfTheBareForm) {
+  for (const char* heading : {"lblScritteVarie(7)", "lblScritteVarie(8)", "lblScritteVarie(9)"}) {
+    WindowRig rig;
+    rig.s().lblHide.BackColor = colours::selected;
+    rig.click("cmdGoTimer");
+    rig.click("cmdGoTimer");
+    ASSERT_FALSE(rig.widget("FraPannello(0)").isVisible());
+    QTest::mouseClick(rig.window->windowHandle(), Qt::LeftButton, {},
+                      rig.widget(heading).geometry().center());
+    EXPECT_TRUE(rig.widget("FraPannello(0)").isVisible()) << heading;
+  }
+}
+
 TEST(Mouse, ACellPaintsDuringARunAndTheRunGoesOn) {
   WindowRig rig;
   rig.s().lblHide.BackColor = colours::selected;

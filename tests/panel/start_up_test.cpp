@@ -86,6 +86,17 @@ TEST(StartUp, NamesTheDefaultMemoryWhateverTheListOfNamesSays) {
   EXPECT_EQ(rig.s.lblSelez.Caption, "Def");
 }
 
+TEST(StartUp, GoesThroughWithABankThatIsNoNumberAndShowsNoTitles) {
+  for (const char* bank : {"x", "", "10", "-1"}) {
+    StartableRig rig;
+    rig.s.lblMemo[0].Caption = bank;
+    SalvaNomi(rig.s);
+    rig.instrument.start();
+    EXPECT_EQ(rig.s.lblMemo[0].Caption, bank);
+    for (int n = 0; n <= 99; ++n) EXPECT_FALSE(rig.s.lblComb[n].Visible) << bank << ' ' << n;
+  }
+}
+
 TEST(StartUp, TheDesignStartsAsTheDisplayOfTheDefaultMemory) {
   StartableRig rig;
   rig.s.lblMiro[7].BackColor = {0x0000FF};
