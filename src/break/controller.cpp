@@ -67,9 +67,9 @@ std::int64_t nthSelected(const BreakControls& s, std::int64_t n) {
 /// The next selected button after the last one used; with none selected, where 20 steps lead.
 std::int64_t nextSelected(BreakControls& s) {
   Label& last = s.lblBreakMode[25];
-  std::int64_t at = 0;
+  Number at = 0;
   for (int step = 1; step <= 20; ++step) {
-    at = last.Caption == "12" ? 1 : number16(s, last) + 1;
+    at = last.Caption == "12" ? Number(1) : number16(s, last) + 1;
     last.Caption = text(at);
     if (selected(s.lblBreakMode[at])) break;
   }

@@ -10,13 +10,13 @@ namespace caleidoscopio {
 
 void SorteggiaIntervalloBreak(BreakControls& s) {
   s.lblIntBrk[1].Caption = s.lblBrk[0].Caption;
-  const std::int64_t base = number16(s, s.lblBrk[0]);
-  const std::int64_t variations = number16(s, s.lblBrk[3]);
+  const Number base = number16(s, s.lblBrk[0]);
+  const Number variations = number16(s, s.lblBrk[3]);
   for (std::int64_t i = 2; i <= variations + 1; ++i) {
     const std::int64_t entry = base + 1000 * (i - 1);
     if (entry > std::numeric_limits<std::int16_t>::max())
-      endRun("overflow: lblBrk(0).Caption is \"" + s.lblBrk[0].Caption + "\", and variation " +
-             text(i - 1) + " comes to " + text(entry) + "; expected 32767 at most");
+      endRun("overflow: variation " + text(i - 1) + " comes to " + text(entry) +
+             "; expected 32767 at most" + base.source() + variations.source());
     s.lblIntBrk[i].Caption = text(entry);
   }
   const Label& drawn = s.lblIntBrk[CasualeMinuti(s, variations + 1)];

@@ -28,26 +28,26 @@ bool among(const std::array<int, count>& elements, int n) {
   return std::find(elements.begin(), elements.end(), n) != elements.end();
 }
 
-void clickSlot(ColourControls& s, std::int64_t k) {
-  click(s.lblValore, static_cast<int>(k));
+void clickSlot(ColourControls& s, const Number& k) {
+  click(s.lblValore, k);
 }
-void clickSwatch(ColourControls& s, std::int64_t p) {
-  click(s.lblColore, static_cast<int>(p));
+void clickSwatch(ColourControls& s, const Number& p) {
+  click(s.lblColore, p);
 }
 /// The two clicks by which a person gives slot k the swatch p.
-void assign(ColourControls& s, std::int64_t k, std::int64_t p) {
+void assign(ColourControls& s, const Number& k, const Number& p) {
   clickSlot(s, k);
   clickSwatch(s, p);
 }
 
-std::int64_t slotCount(const ColourControls& s) {
+Number slotCount(const ColourControls& s) {
   return number(s, s.lblNSc);
 }
 bool withFirst(const ColourControls& s) {
   return s.lblCambioCol[6].Caption == "Y";
 }
 /// A slot in play.
-std::int64_t drawSlot(ColourControls& s) {
+Number drawSlot(ColourControls& s) {
   return withFirst(s) ? CasualeMinuti(s, slotCount(s)) - 1 : CasualeMinuti(s, slotCount(s) - 1);
 }
 
@@ -92,8 +92,8 @@ void changeAll(ColourControls& s) {
 /// Two slots trade colours. When a second one is not found the slot trades with itself, which
 /// changes nothing.
 void tradePair(ColourControls& s) {
-  const std::int64_t one = drawSlot(s);
-  std::int64_t other = one;
+  const Number one = drawSlot(s);
+  Number other = one;
   for (int i = 0; i < tries && other == one; ++i) other = drawSlot(s);
   assign(s, one, number(s, s.lblTav[other]));
 }
@@ -114,7 +114,7 @@ void tradePairs(ColourControls& s) {
 /// `end` that of the last. lblTav is written ahead of the clicks, so that every trade finds it in
 /// place.
 void rotate(ColourControls& s, std::int64_t end) {
-  for (std::int64_t i = slotCount(s) - 1; i > end; --i) {
+  for (Number i = slotCount(s) - 1; i > end; i = i - 1) {
     s.lblTav[i].Caption = s.lblTav[i - 1].Caption;
     assign(s, i, number(s, s.lblTav[i]));
   }
@@ -126,7 +126,7 @@ void rotate(ColourControls& s, std::int64_t end) {
 void rotateAll(ColourControls& s) {
   s.lblCambioCol[3].BackColor = colours::selected;
   const std::int64_t times = number(s, s.lblCambioCol[11]);
-  const std::int64_t last = slotCount(s) - 1;
+  const Number last = slotCount(s) - 1;
   for (std::int64_t n = 0; n < times; ++n) {
     s.lblCambioCol[7].Caption = s.lblNumAttivo.Caption;
     s.lblCambioCol[8].Caption = s.lblTav[last].Caption;
@@ -139,7 +139,7 @@ void rotateAll(ColourControls& s) {
 
 /// Slot k takes swatch p without a click: the active slot stays the active one, and lblValAttivo
 /// keeps the colour that it had, even where k is that slot. It is meant to stay so.
-void replaceColour(ColourControls& s, std::int64_t k, std::int64_t p) {
+void replaceColour(ColourControls& s, const Number& k, std::int64_t p) {
   const Label& swatch = s.lblColore[p];
   Label& slot = s.lblValore[k];
   s.lblMemoCol.BackColor = slot.BackColor;
@@ -173,7 +173,7 @@ void changeAny(ColourControls& s) {
   toggle(s.lblCambioCol[10]);
   const std::int64_t times = number(s, s.lblCambioCol[11]);
   for (std::int64_t n = 0; n < times; ++n) {
-    const std::int64_t k = drawSlot(s);
+    const Number k = drawSlot(s);
     std::int64_t p = 0;
     for (int i = 0; i < tries; ++i) {
       p = CasualeMinuti(s, drawnSwatches);

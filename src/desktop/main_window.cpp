@@ -85,6 +85,8 @@ void MainWindow::resizeEvent(QResizeEvent*) {
 void showFault(const QString& message, QWidget* parent) {
   QMessageBox box(QMessageBox::Critical, QStringLiteral("Caleidoscopio"), message, QMessageBox::Ok,
                   parent);
+  // What was found in a file may look like markup.
+  box.setTextFormat(Qt::PlainText);
   box.setObjectName(QStringLiteral("fault"));
   box.setTextFormat(Qt::PlainText);  // what was found in a file is shown as it is
   box.exec();

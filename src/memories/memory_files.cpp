@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "panel/end_run.h"
+#include "panel/shown.h"
 
 namespace caleidoscopio {
 
@@ -31,7 +32,7 @@ std::string memoryPath(std::string_view name) {
 const std::string& selected(const MemoryControls& s) {
   const std::string& name = s.lblSelez.Caption;
   if (!namesMemory(name))
-    endRun("lblSelez.Caption is \"" + name +
+    endRun("lblSelez.Caption is \"" + shown(name) +
            "\", which names no memory file; expected \"0\" to \"99\" or \"A\" to \"E\"");
   return name;
 }

@@ -4,6 +4,7 @@
 #include <cstddef>
 
 #include "panel/end_run.h"
+#include "panel/shown.h"
 
 namespace caleidoscopio {
 
@@ -66,7 +67,7 @@ void Record::read(std::string_view text, const std::string& file) const {
     // A number may stand in quotes; a flag may not.
     const std::string_view value = isFlag(line.value) ? written : withoutQuotes(written);
     if (const auto expected = assign(line.value, value))
-      fault("found '" + std::string(written) + "'; expected " + std::string(*expected));
+      fault("found '" + shown(written) + "'; expected " + std::string(*expected));
   }
 }
 

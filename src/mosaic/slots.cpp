@@ -28,7 +28,7 @@ void recolourCell(MosaicControls& s, int j, const Frame& from) {
 
 /// The active slot takes a colour that no slot uses.
 void takeFreeSwatch(MosaicControls& s, int i) {
-  const std::int64_t active = number(s, s.lblValAttivo);
+  const Number active = number(s, s.lblValAttivo);
   copyColours(s.lblMemoCol, s.lblValAttivo);
   s.lblColore[number(s, s.lblTav[active])].BorderStyle = 0;
   s.lblColore[i].BorderStyle = 1;
@@ -62,7 +62,7 @@ void swapInMatrix(MosaicControls& s, const Label& swatch) {
 
 /// The active slot takes a colour that another slot uses, and that slot the active one's.
 void tradeSwatch(MosaicControls& s, int i) {
-  const std::int64_t active = number(s, s.lblValAttivo);
+  const Number active = number(s, s.lblValAttivo);
   const Label& swatch = s.lblColore[i];
   copyColours(s.lblMemoCol, s.lblValAttivo);
   int other = 0;

@@ -86,9 +86,14 @@ void Control::raise(Event event, int index, int argument) const {
   if (const Tied* tied = tiedTo(event, index)) tied->run(argument);
 }
 
-void Control::outside(std::int64_t index) const {
+void Control::click(const Number& index) const {
+  if (index < first_ || index > last_) outside(index);
+  raise(Event::Click, static_cast<int>(index));
+}
+
+void Control::outside(const Number& index) const {
   endRun(std::string(name_) + "(" + std::to_string(index) + "): no such element; expected " +
-         std::to_string(first_) + " to " + std::to_string(last_));
+         std::to_string(first_) + " to " + std::to_string(last_) + index.source());
 }
 
 }  // namespace caleidoscopio

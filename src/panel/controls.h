@@ -8,6 +8,7 @@
 #include <string_view>
 #include <vector>
 
+#include "panel/number.h"
 #include "panel/values.h"
 
 namespace caleidoscopio {
@@ -145,12 +146,14 @@ class Control {
   /// against the bounds and ends the run outside them; `argument` is what the handler gets.
   void raise(Event event, int index, int argument) const;
   void raise(Event event, int index = 0) const { raise(event, index, index); }
+  /// A click where the index was read from a caption: outside the bounds the message names it.
+  void click(const Number& index) const;
 
  protected:
   Control(Group& group, std::string_view name, Kind kind, int first, int last, bool single,
           void* elements, std::size_t stride, Geometry* geometry);
   ~Control() = default;
-  [[noreturn]] void outside(std::int64_t index) const;
+  [[noreturn]] void outside(const Number& index) const;
 
  private:
   struct Tied {
@@ -174,6 +177,11 @@ inline void click(const Control& control, int index = 0) {
   control.raise(Event::Click, index);
 }
 
+/// The same where the index was read from a caption.
+inline void click(const Control& control, const Number& index) {
+  control.click(index);
+}
+
 /// An array of controls with the bounds that its users know. Defaults are handed over in
 /// declaration order and are applied to each element in turn.
 template <class T, int First, int Last>
@@ -190,7 +198,14 @@ class Row : public Control {
       outside(index);
     return elements_[index - First];
   }
+  /// The same, and the message names the caption that the index was read from.
+  T& operator[](const Number& index) {
+    if (index < First || index > Last) [[unlikely]]
+      outside(index);
+    return elements_[index - First];
+  }
   const T& operator[](std::int64_t index) const { return const_cast<Row&>(*this)[index]; }
+  const T& operator[](const Number& index) const { return const_cast<Row&>(*this)[index]; }
 
  private:
   T elements_[Last - First + 1];

@@ -4,12 +4,13 @@
 
 #include "panel/end_run.h"
 #include "panel/properties.h"
+#include "panel/shown.h"
 
 namespace caleidoscopio {
 
 namespace {
 std::string named(const PanelControls& s, const Frame& holder) {
-  return s.controls.nameOf(&holder) + ".Caption is \"" + holder.Caption + '"';
+  return s.controls.nameOf(&holder) + ".Caption is \"" + shown(holder.Caption) + '"';
 }
 
 /// Every tick reads some captions, and nearly every one holds a few digits and nothing else: that
@@ -26,15 +27,21 @@ std::int32_t fewDigits(std::string_view text) {
 
 }  // namespace
 
-std::int64_t number(const PanelControls& s, const Frame& holder) {
-  if (const std::int32_t few = fewDigits(holder.Caption); few >= 0) return few;
-  const auto value = wholeNumber(holder.Caption);
-  if (!value) endRun(named(s, holder) + "; expected a whole number of 32 bits");
-  return *value;
+std::string Number::source() const {
+  if (!holder_) return {};
+  return "; " + controls_->nameOf(holder_) + ".Caption is \"" + text(read_) + '"';
 }
 
-std::int64_t number16(const PanelControls& s, const Frame& holder) {
-  const std::int64_t value = number(s, holder);
+Number number(const PanelControls& s, const Frame& holder) {
+  if (const std::int32_t few = fewDigits(holder.Caption); few >= 0)
+    return {few, s.controls, holder};
+  const auto value = wholeNumber(holder.Caption);
+  if (!value) endRun(named(s, holder) + "; expected a whole number of 32 bits");
+  return {*value, s.controls, holder};
+}
+
+Number number16(const PanelControls& s, const Frame& holder) {
+  const Number value = number(s, holder);
   if (value < std::numeric_limits<std::int16_t>::min() ||
       value > std::numeric_limits<std::int16_t>::max())
     endRun("overflow: " + named(s, holder) + "; expected a number of 16 bits, 32767 at most");

@@ -11,7 +11,7 @@ namespace caleidoscopio {
 enum class Column { A, B, C };
 inline constexpr std::array columns3{Column::A, Column::B, Column::C};
 
-inline Label& cellOf(SequencerControls& s, Column column, std::int64_t row) {
+inline Label& cellOf(SequencerControls& s, Column column, const Number& row) {
   switch (column) {
     case Column::A:
       return s.lblTmrA[row];

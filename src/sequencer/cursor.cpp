@@ -9,19 +9,19 @@ void markTableForRun(SequencerControls& s) {
   for (int row = 2; row <= 24; ++row)
     for (Frame* cell : {&s.lblNOrdine[row], &s.lblTmrA[row], &s.lblTmrB[row], &s.lblTmrC[row]})
       cell->BackColor = colours::unselected;
-  const std::int64_t last = number(s, s.lblSeq[5]);
-  for (std::int64_t row = 2; row <= last; ++row)
+  const Number last = number(s, s.lblSeq[5]);
+  for (Number row = last.becoming(2); row <= last; row = row + 1)
     for (Frame* cell : {&s.lblTmrA[row], &s.lblTmrB[row], &s.lblTmrC[row]})
       cell->BackColor = colours::inRange;
-  const std::int64_t cursor = number(s, s.lblSeq[4]);
+  const Number cursor = number(s, s.lblSeq[4]);
   for (Frame* cell :
        {&s.lblNOrdine[cursor], &s.lblTmrA[cursor], &s.lblTmrB[cursor], &s.lblTmrC[cursor]})
     cell->BackColor = colours::selected;
 }
 
 void rewindCursor(SequencerControls& s) {
-  const std::int64_t cursor = number(s, s.lblSeq[4]);
-  const std::int64_t row = cursor == 1 ? number(s, s.lblSeq[5]) : cursor - 1;
+  const Number cursor = number(s, s.lblSeq[4]);
+  const Number row = cursor == 1 ? number(s, s.lblSeq[5]) : cursor - 1;
   const std::string& edited = s.lblSeq[3].Caption;
   if (edited == "B" || edited == "C") s.lblTmrA[row].BackColor = colours::inRange;
   if (edited == "A" || edited == "C") s.lblTmrB[row].BackColor = colours::inRange;

@@ -42,25 +42,25 @@ void stepInterval(SequencerControls& s, bool up) {
   s.TmrSequencer.setInterval(value);
 }
 
-void markCursor(SequencerControls& s, std::int64_t row) {
+void markCursor(SequencerControls& s, const Number& row) {
   s.lblNOrdine[row].BackColor = colours::selected;
   if (const Column* column = editedColumn(s)) cellOf(s, *column, row).BackColor = colours::selected;
 }
 
-void unmarkCursor(SequencerControls& s, std::int64_t row) {
+void unmarkCursor(SequencerControls& s, const Number& row) {
   s.lblNOrdine[row].BackColor = colours::unselected;
   if (const Column* column = editedColumn(s)) cellOf(s, *column, row).BackColor = colours::inRange;
 }
 
-void moveCursor(SequencerControls& s, std::int64_t from, std::int64_t to) {
+void moveCursor(SequencerControls& s, const Number& from, const Number& to) {
   unmarkCursor(s, from);
   s.lblSeq[4].Caption = text(to);
   markCursor(s, to);
 }
 
 void advanceCursor(SequencerControls& s) {
-  const std::int64_t row = number(s, s.lblSeq[4]);
-  moveCursor(s, row, row == number(s, s.lblSeq[5]) ? 1 : row + 1);
+  const Number row = number(s, s.lblSeq[4]);
+  moveCursor(s, row, row == number(s, s.lblSeq[5]) ? Number(1) : row + 1);
 }
 
 void nextColumn(SequencerControls& s) {
@@ -72,7 +72,7 @@ void nextColumn(SequencerControls& s) {
   s.lblSeq[3].Caption = names[static_cast<std::size_t>(entered)];
   for (const int heading : headings) s.lblScritteVarie[heading].BackColor = colours::unselected;
   s.lblScritteVarie[headings[static_cast<std::size_t>(entered)]].BackColor = colours::selected;
-  const std::int64_t last = number(s, s.lblSeq[5]);
+  const Number last = number(s, s.lblSeq[5]);
   for (std::int64_t row = 1; row <= last; ++row) cellOf(s, *left, row).BackColor = colours::inRange;
   cellOf(s, entered, number(s, s.lblSeq[4])).BackColor = colours::selected;
 }
@@ -116,8 +116,8 @@ bool growLength(SequencerControls& s) {
 }
 
 void repaintColumn(SequencerControls& s, Column column, bool rowsAbove) {
-  const std::int64_t last = number(s, s.lblSeq[5]);
-  for (std::int64_t row = 1; row <= last; ++row)
+  const Number last = number(s, s.lblSeq[5]);
+  for (Number row = last.becoming(1); row <= last; row = row + 1)
     cellOf(s, column, row).BackColor = colours::inRange;
   for (std::int64_t row = last + 1; rowsAbove && row <= rowCount; ++row)
     cellOf(s, column, row).BackColor = colours::unselected;
@@ -224,7 +224,7 @@ void lblAvanza_MouseUp(SequencerControls& s, int k) {
 
 void TmrAvanza_Timer(SequencerControls& s) {
   if (s.lblAvanza[1].BackColor == colours::pressed) return advanceCursor(s);
-  const std::int64_t row = number(s, s.lblSeq[4]);
+  const Number row = number(s, s.lblSeq[4]);
   // The first row is known by its text, the last one by its number: both are meant to stay.
   moveCursor(s, row, s.lblSeq[4].Caption == "1" ? number(s, s.lblSeq[5]) : row - 1);
 }

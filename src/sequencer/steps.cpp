@@ -48,15 +48,14 @@ Driven drivenBy(SequencerControls& s, Column column) {
       return {s.TmrGoA, 1, [](SequencerControls& c, Label& cell) { setShift(c, cell.Caption); }};
     case Column::B:
       // A cleared cell is no number and ends the run: it is not to be made safe.
-      return {s.TmrGoB, 2, [](SequencerControls& c, Label& cell) {
-                click(c.lblTransf, static_cast<int>(number(c, cell)));
-              }};
+      return {s.TmrGoB, 2,
+              [](SequencerControls& c, Label& cell) { click(c.lblTransf, number(c, cell)); }};
     default:
       return {s.TmrGoC, 3, [](SequencerControls& c, Label& cell) { setFrame(c, cell.Caption); }};
   }
 }
 
-void runColumn(SequencerControls& s, Column column, std::int64_t row) {
+void runColumn(SequencerControls& s, Column column, const Number& row) {
   const Driven driven = drivenBy(s, column);
   Label& cell = cellOf(s, column, row);
   const bool excluded = s.lblDisattiva[static_cast<int>(column)].BackColor != colours::unselected;
@@ -80,8 +79,8 @@ const Column* editedColumn(const SequencerControls& s) {
 }
 
 void TmrSequencer_Timer(SequencerControls& s) {
-  const std::int64_t row = number(s, s.lblSeq[4]);
-  const std::int64_t previous = row == 1 ? number(s, s.lblSeq[5]) : row - 1;
+  const Number row = number(s, s.lblSeq[4]);
+  const Number previous = row == 1 ? number(s, s.lblSeq[5]) : row - 1;
   for (const Column column : columns3) cellOf(s, column, previous).BackColor = colours::inRange;
   s.lblNOrdine[previous].BackColor = colours::unselected;
   for (const Column column : columns3) cellOf(s, column, row).BackColor = colours::selected;

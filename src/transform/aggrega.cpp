@@ -119,14 +119,15 @@ void aggregateByOption(TransformControls& s, Drawn drawn) {
 
 void ColorePiuFrequente(TransformControls& s) {
   std::int64_t most = 0;
-  for (int i = 1; i <= 6; ++i) most = std::max(most, number(s, s.lblAggrega[i]));
+  for (int i = 1; i <= 6; ++i) most = std::max<std::int64_t>(most, number(s, s.lblAggrega[i]));
   chooseAmong(s, most);
 }
 
 void ColorePiuRaro(TransformControls& s) {
   std::int64_t least = number(s, s.lblAggrega[0]);
   for (int i = 1; i <= 6; ++i)
-    if (s.lblAggrega[i].Caption != "0") least = std::min(least, number(s, s.lblAggrega[i]));
+    if (s.lblAggrega[i].Caption != "0")
+      least = std::min<std::int64_t>(least, number(s, s.lblAggrega[i]));
   chooseAmong(s, least);
 }
 

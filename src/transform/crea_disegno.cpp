@@ -5,6 +5,7 @@
 #include "mosaic/random_pick.h"
 #include "panel/end_run.h"
 #include "panel/numbers.h"
+#include "panel/shown.h"
 
 namespace caleidoscopio {
 
@@ -20,8 +21,8 @@ std::int64_t drawCount(TransformControls& s, int minimum, int extra) {
   return off ? n : n + CasualeMinuti(s, designCount(s, extra));
 }
 
-void selectSlot(TransformControls& s, std::int64_t k) {
-  click(s.lblValore, static_cast<int>(k));
+void selectSlot(TransformControls& s, const Number& k) {
+  click(s.lblValore, k);
 }
 void paint(TransformControls& s, std::int64_t i) {
   click(s.lblMiro, static_cast<int>(i));
@@ -42,7 +43,7 @@ void fillWithGround(TransformControls& s) {
   }
 }
 
-void drawRectangles(TransformControls& s, std::int64_t slots) {
+void drawRectangles(TransformControls& s, const Number& slots) {
   Label& tool = s.lblComCol[4];
   tool.BackColor = colours::selected;
   tool.Caption = "1";
@@ -64,17 +65,17 @@ void drawRectangles(TransformControls& s, std::int64_t slots) {
 /// n dots of drawn colours among `quartets` of the block whose cells follow `before`; a second hit
 /// of a colour on its own dot erases it.
 template <class Brush>
-void drawDots(TransformControls& s, std::int64_t n, std::int64_t slots, std::int64_t quartets,
+void drawDots(TransformControls& s, std::int64_t n, const Number& slots, std::int64_t quartets,
               int before, Brush brush) {
   for (std::int64_t i = 0; i < n; ++i) {
-    const std::int64_t slot = CasualeMinuti(s, slots) - 1;
+    const Number slot = CasualeMinuti(s, slots) - 1;
     const std::int64_t q = CasualeMinuti(s, quartets);
     selectSlot(s, slot);
     brush(s, quartet(q, before));
   }
 }
 
-void drawCrossDots(TransformControls& s, std::int64_t slots) {
+void drawCrossDots(TransformControls& s, const Number& slots) {
   std::int64_t n = drawCount(s, 3, 4);
   if (n == 0) return;
   if (CasualeMinuti(s, 2) - 1 == 1) {
@@ -85,7 +86,7 @@ void drawCrossDots(TransformControls& s, std::int64_t slots) {
   drawDots(s, n, slots, 9, 328, paint);
 }
 
-void drawBorderDots(TransformControls& s, std::int64_t slots) {
+void drawBorderDots(TransformControls& s, const Number& slots) {
   std::int64_t n = drawCount(s, 5, 6);
   if (n == 0) return;
   // Corners and tips of the cross each cost a dot, also where one is left for the two: the count
@@ -99,7 +100,7 @@ void drawBorderDots(TransformControls& s, std::int64_t slots) {
   drawDots(s, n, slots, 9, 364, paintRowAlone);
 }
 
-void drawFieldDots(TransformControls& s, std::int64_t slots) {
+void drawFieldDots(TransformControls& s, const Number& slots) {
   if (s.lblCrea[11].Caption == "0") return;
   const std::int64_t n = CasualeMinuti(s, designCount(s, 11) + 1) - 1;
   drawDots(s, n, slots, fieldQuartets, 0, paint);
@@ -123,19 +124,19 @@ void changeColours(TransformControls& s) {
 
 }  // namespace
 
-std::int64_t designCount(const TransformControls& s, int k) {
+Number designCount(const TransformControls& s, int k) {
   constexpr std::int64_t largest = 1000;
-  const std::int64_t n = number(s, s.lblCrea[k]);
+  const Number n = number(s, s.lblCrea[k]);
   if (n > largest)
-    endRun(s.lblCrea.nameOf(k) + ".Caption is \"" + s.lblCrea[k].Caption +
+    endRun(s.lblCrea.nameOf(k) + ".Caption is \"" + shown(s.lblCrea[k].Caption) +
            "\"; expected a count of " + text(largest) + " at most");
   return n;
 }
 
 void CreaDisegno(TransformControls& s) {
-  const std::int64_t active = number(s, s.lblValAttivo);
+  const Number active = number(s, s.lblValAttivo);
   if (s.lblComCol[7].BackColor == colours::selected) fillWithGround(s);
-  const std::int64_t slots = number(s, s.lblNSc);
+  const Number slots = number(s, s.lblNSc);
   drawRectangles(s, slots);
   drawCrossDots(s, slots);
   drawBorderDots(s, slots);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "panel/number.h"
 #include "transform/transform_controls.h"
 
 namespace caleidoscopio {
@@ -13,7 +14,7 @@ void CreaDisegno(TransformControls& s);
 /// A count in lblCrea(k), for this design and for that of a Break. One beyond 1000, which only
 /// damage can bring in, ends the run: a tick runs to its end, and would hold up everything for so
 /// long.
-std::int64_t designCount(const TransformControls& s, int k);
+Number designCount(const TransformControls& s, int k);
 
 /// Option k, 1 to 11: counts (1 to 6 and 11) step up and round while held, 7 walks "R", "2" to
 /// "7", and 8 to 10 are toggles.

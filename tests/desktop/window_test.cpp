@@ -181,10 +181,12 @@ TEST(Window, AFaultsBoxIsClosedAsAPersonWould) {
     auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
     ASSERT_NE(box, nullptr);
     shown = box->text();
+    // What a file held is not taken for markup.
+    EXPECT_EQ(box->textFormat(), Qt::PlainText);
     QTest::mouseClick(box->button(QMessageBox::Ok), Qt::LeftButton);
   });
-  showFault("Default.txt, line 3: no", nullptr);
-  EXPECT_EQ(shown, "Default.txt, line 3: no");
+  showFault("Default.txt, line 3: found '<b>'", nullptr);
+  EXPECT_EQ(shown, "Default.txt, line 3: found '<b>'");
 }
 
 }  // namespace caleidoscopio::test

@@ -5,6 +5,7 @@
 #include <cmath>
 #include <vector>
 
+#include "panel/numbers.h"
 #include "support/rig.h"
 #include "support/run_end.h"
 
@@ -87,6 +88,16 @@ TEST_F(RandomPick, OfNothingEndsTheRunAfterItsDraw) {
   EXPECT_EQ(generator.draws, 1);
   generator.queue = {0.5F};
   EXPECT_TRUE(endsTheRun([&] { CasualeMinuti(s, -1); }, {"-1"}));
+}
+
+TEST_F(RandomPick, TheCaptionThatTheCountWasReadFromAnswersForThePickToo) {
+  s.lblNSc.Caption = "0";
+  generator.queue = {0.5F, 0.5F};
+  EXPECT_TRUE(endsTheRun([&] { CasualeMinuti(s, number(s, s.lblNSc)); },
+                         {"division by zero", "lblNSc.Caption is \"0\""}));
+  s.lblNSc.Caption = "100";
+  EXPECT_TRUE(endsTheRun([&] { s.lblValore[CasualeMinuti(s, number(s, s.lblNSc)) - 1]; },
+                         {"lblValore(50)", "lblNSc.Caption is \"100\""}));
 }
 
 TEST_F(RandomPick, EachValueComesUpEquallyOftenWhateverTheTimeOfDay) {

@@ -59,6 +59,24 @@ TEST_F(Captions, AnIndexOutsideAnArrayEndsTheRunNamingArrayAndIndex) {
   EXPECT_TRUE(endsTheRun([&] { click(s.lblSposta, 25); }, {"lblSposta(25)"}));
 }
 
+TEST_F(Captions, AnIndexThatWasReadFromACaptionNamesItWithWhatWasReadThere) {
+  s.lblIndexTmr.Caption = " 4 ";
+  const Number read = number(s, s.lblIndexTmr);
+  s.lblIndexTmr.Caption = "changed since";
+  EXPECT_EQ(runEndOf([&] { s.lblVelo[read]; }),
+            "lblVelo(4): no such element; expected 1 to 3; lblIndexTmr.Caption is \"4\"");
+  EXPECT_EQ(runEndOf([&] { s.lblVelo[read + 1]; }),
+            "lblVelo(5): no such element; expected 1 to 3; lblIndexTmr.Caption is \"4\"");
+  EXPECT_EQ(runEndOf([&] { click(s.lblVelo, read - 4); }),
+            "lblVelo(0): no such element; expected 1 to 3; lblIndexTmr.Caption is \"4\"");
+  EXPECT_EQ(runEndOf([&] { s.lblVelo[2 * read]; }), "lblVelo(8): no such element; expected 1 to 3");
+}
+
+TEST_F(Captions, AnIndexBeyond32BitsIsToldInFull) {
+  EXPECT_EQ(runEndOf([&] { s.lblVelo[std::int64_t{-2147483649}]; }),
+            "lblVelo(-2147483649): no such element; expected 1 to 3");
+}
+
 TEST_F(Captions, AnElementThatNoRuleNamesTakesNoPress) {
   EXPECT_FALSE(s.lblColore.handles(Event::Click, 0));
   EXPECT_FALSE(s.lblSposta.handles(Event::Click, 0));
