@@ -1,0 +1,57 @@
+#!/usr/bin/env bash
+# in_the_window.sh CALEIDOSCOPIO SHARE: damaged files end the window's program with status 1, with
+# their message on standard error and in a box, which a key closes.
+set -euo pipefail
+program=$1
+share=$2
+here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
+# shellcheck source=tools/virtual_display.sh
+. "$here/../../tools/virtual_display.sh"
+
+start_virtual_display 640x480
+work=$virtual_display_folder
+export XDG_DATA_HOME=$work/data XDG_RUNTIME_DIR=$work LC_ALL=C.UTF-8
+dati=$XDG_DATA_HOME/caleidoscopio/Miro-Vel-Ta/Dati
+
+fail() {
+  printf 'FAILED: %s\n' "$*" >&2
+  sed 's/^/  /' "$work/said" >&2
+  exit 1
+}
+
+# refused FILE LINE DAMAGE WORDS: starts with that line damaged, closes the box, and finds the words.
+refused() {
+  local file=$dati/$1 number=$2 damage=$3 words=$4 status=0 box wait
+  rm -rf "$XDG_DATA_HOME"
+  mkdir -p "${dati%/Dati}"
+  cp -r "$share"/Miro-Vel-Ta/* "${dati%/Dati}/"
+  N=$number DAMAGE=$damage awk 'NR == ENVIRON["N"] { print ENVIRON["DAMAGE"] "\r"; next } { print }' \
+    "$share/Miro-Vel-Ta/Dati/$1" >"$file"
+  cp "$file" "$work/before"
+  "$program" 2>"$work/said" &
+  virtual_display_program=$!
+  for ((wait = 0; wait < 100; ++wait)); do
+    # The message is there before the box is closed: whoever started it from a terminal sees it.
+    if [ -s "$work/said" ] && box=$(xdotool search --onlyvisible --name '^Caleidoscopio$' 2>/dev/null); then
+      xdotool key --window "${box%%$'\n'*}" Return 2>/dev/null || true
+      xdotool key Return
+    fi
+    kill -0 "$virtual_display_program" 2>/dev/null || break
+    sleep 0.1
+  done
+  ! kill -0 "$virtual_display_program" 2>/dev/null || fail "$1, line $number: the box was not closed"
+  wait "$virtual_display_program" || status=$?
+  virtual_display_program=
+  [ $status = 1 ] || fail "$1, line $number: status $status"
+  grep -qF "caleidoscopio: $words" "$work/said" || fail "$1, line $number: expected $words"
+  cmp -s "$file" "$work/before" || fail "$1, line $number: the file was harmed"
+}
+
+folder=$XDG_DATA_HOME/caleidoscopio/Miro-Vel-Ta/Dati
+# A number, a flag, a text that the start counts with; and one that a later tick counts with, when
+# the window is there.
+refused Default.txt 6 '"Disegno"' "$folder/Default.txt, line 6, TmrSequencer.Interval: found '\"Disegno\"'; expected a whole number of 32 bits"
+refused Default.txt 178 $'<b>\x1b[31m' "$folder/Default.txt, line 178, FraPannello(2).Visible: found '<b>\\x1B[31m'; expected #TRUE# or #FALSE#"
+refused Memorie.txt 3 '"#"' "lblMemo(0).Caption is \"#\"; expected a whole number of 32 bits"
+refused Default.txt 1802 '"0"' 'division by zero: a random pick among 0; expected 1 or more; lblRndC(0).Caption is "0"'
+echo "refused as they should be"
