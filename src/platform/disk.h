@@ -14,8 +14,8 @@ class Disk {
  public:
   virtual ~Disk() = default;
   /// Makes a new file and opens it for writing, with the permissions of `like` if there is such a
-  /// file. Fails with file_exists when `file` is there, and when `like` is no plain file or may not
-  /// be written.
+  /// file. One that a program left when it died makes way. Fails with file_exists when `file` is
+  /// there, and when `like` is no plain file or may not be written.
   virtual std::error_code create(const std::filesystem::path& file,
                                  const std::filesystem::path& like) = 0;
   /// Writes to the open file; returns how many bytes went, which may be fewer than were given.

@@ -1,6 +1,7 @@
 #include "platform/posix_disk.h"
 
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -17,10 +18,52 @@ std::error_code outcome(int result) {
   return result == 0 ? std::error_code() : std::error_code(errno, std::generic_category());
 }
 
+int openNew(const fs::path& file) {
+  return ::open(file.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
+}
+
+bool isAt(int opened, const fs::path& file) {
+  struct stat own {};
+  struct stat there {};
+  return ::fstat(opened, &own) == 0 && ::lstat(file.c_str(), &there) == 0 &&
+         own.st_dev == there.st_dev && own.st_ino == there.st_ino;
+}
+
+// Who writes a file beside another holds a lock on it from the beginning until it is moved or
+// removed, and the lock ends with the process. So one without a lock was left by a program that
+// died; a hundred of them would leave no name to save under.
+
+/// Where no locks are to be had a file is left alone.
+bool removeAbandoned(const fs::path& file) {
+  const int opened = ::open(file.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC);
+  if (opened < 0) return false;
+  struct stat found {};
+  // Between the opening and the lock it may have been moved to its place: then it is no longer at
+  // this name.
+  const bool abandoned = ::fstat(opened, &found) == 0 && S_ISREG(found.st_mode) &&
+                         ::flock(opened, LOCK_EX | LOCK_NB) == 0 && isAt(opened, file);
+  const bool removed = abandoned && ::unlink(file.c_str()) == 0;
+  ::close(opened);
+  return removed;
+}
+
+/// False if another program took the file for an abandoned one before it was locked.
+bool lockOwn(int opened, const fs::path& file) {
+  if (::flock(opened, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK) return false;
+  return isAt(opened, file);
+}
+
 }  // namespace
 
 PosixDisk::~PosixDisk() {
-  if (open_ >= 0) ::close(open_);
+  release();
+}
+
+void PosixDisk::release() {
+  for (int* held : {&open_, &locked_}) {
+    if (*held >= 0) ::close(*held);
+    *held = -1;
+  }
 }
 
 std::error_code PosixDisk::create(const fs::path& file, const fs::path& like) {
@@ -32,8 +75,18 @@ std::error_code PosixDisk::create(const fs::path& file, const fs::path& like) {
                                                      : std::errc::invalid_argument);
   // The move would take the place of a file that its owner has closed to writing.
   if (replaces && ::access(like.c_str(), W_OK) != 0) return outcome(-1);
-  open_ = ::open(file.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
+  release();
+  open_ = openNew(file);
+  if (open_ < 0 && errno == EEXIST) {
+    if (!removeAbandoned(file)) return std::make_error_code(std::errc::file_exists);
+    open_ = openNew(file);
+  }
   if (open_ < 0) return outcome(-1);
+  if (!lockOwn(open_, file)) {
+    release();
+    return std::make_error_code(std::errc::file_exists);
+  }
+  locked_ = ::fcntl(open_, F_DUPFD_CLOEXEC, 0);
   if (replaces) static_cast<void>(::fchmod(open_, old.st_mode & 07777));
   return {};
 }

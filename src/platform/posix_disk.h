@@ -21,7 +21,12 @@ class PosixDisk : public Disk {
   std::error_code remove(const std::filesystem::path& file) override;
 
  private:
+  void release();
+
   int open_ = -1;
+  /// Holds the lock on the file made last until it has its place or is gone, also when it is
+  /// closed.
+  int locked_ = -1;
 };
 
 }  // namespace caleidoscopio

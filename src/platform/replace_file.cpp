@@ -8,8 +8,7 @@ namespace fs = std::filesystem;
 
 constexpr int namesTried = 100;
 
-/// A file beside `file` that was not there before: another program may be saving at the same time,
-/// or have died in the middle of it.
+/// A file beside `file` that was not there before: another program may be saving at the same time.
 std::error_code createBeside(Disk& disk, const fs::path& file, fs::path& beside) {
   std::error_code error;
   for (int i = 1; i <= namesTried; ++i) {

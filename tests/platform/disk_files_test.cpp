@@ -1,7 +1,13 @@
 #include "platform/disk_files.h"
 
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
 #include <csignal>
 
+#include "platform/posix_disk.h"
 #include "platform/scratch_folder.h"
 
 namespace caleidoscopio::test {
@@ -87,6 +93,53 @@ TEST_F(DiskFilesTest, AFileKeepsItsPermissions) {
   std::string why;
   ASSERT_TRUE(DiskFiles::under(folder.string()).write("f.txt", "new", why)) << why;
   EXPECT_EQ(fs::status(folder / "f.txt").permissions(), owner);
+}
+
+TEST_F(DiskFilesTest, WhatADeadProgramLeftBesideMakesWay) {
+  put("f.txt", "old");
+  for (int i = 1; i <= 100; ++i) put("f.txt.new" + std::to_string(i), "half");
+  std::string why;
+  EXPECT_TRUE(DiskFiles::under(folder.string()).write("f.txt", "new", why)) << why;
+  EXPECT_EQ(textOf("f.txt"), "new");
+  EXPECT_EQ(filesIn("."), 100) << "one of the hundred was taken";
+}
+
+TEST_F(DiskFilesTest, WhatALivingProgramWritesBesideStays) {
+  put("f.txt", "old");
+  put("f.txt.new1", "another's");
+  const int others = open(at("f.txt.new1").c_str(), O_RDONLY | O_CLOEXEC);
+  ASSERT_EQ(flock(others, LOCK_EX), 0);
+  std::string why;
+  EXPECT_TRUE(DiskFiles::under(folder.string()).write("f.txt", "new", why)) << why;
+  EXPECT_EQ(textOf("f.txt"), "new");
+  EXPECT_EQ(textOf("f.txt.new1"), "another's");
+  close(others);
+}
+
+TEST_F(DiskFilesTest, AFileBesideIsLockedUntilItHasItsPlace) {
+  const auto locked = [&](const std::string& name) {
+    const int opened = open(at(name).c_str(), O_RDONLY | O_CLOEXEC);
+    const bool held = flock(opened, LOCK_EX | LOCK_NB) != 0;
+    close(opened);
+    return held;
+  };
+  PosixDisk disk;
+  ASSERT_FALSE(disk.create(at("f.txt.new1"), at("f.txt")));
+  EXPECT_TRUE(locked("f.txt.new1"));
+  EXPECT_EQ(PosixDisk().create(at("f.txt.new1"), at("f.txt")), std::errc::file_exists);
+  ASSERT_FALSE(disk.close());
+  EXPECT_TRUE(locked("f.txt.new1"));
+  EXPECT_EQ(PosixDisk().create(at("f.txt.new1"), at("f.txt")), std::errc::file_exists);
+}
+
+TEST_F(DiskFilesTest, NothingButAPlainFileBesideMakesWay) {
+  fs::create_directories(folder / "f.txt.new1");
+  fs::create_symlink("elsewhere", folder / "f.txt.new2");
+  ASSERT_EQ(mkfifo(at("f.txt.new3").c_str(), 0600), 0);
+  std::string why;
+  EXPECT_TRUE(DiskFiles::under(folder.string()).write("f.txt", "new", why)) << why;
+  EXPECT_EQ(textOf("f.txt"), "new");
+  EXPECT_EQ(filesIn("."), 4);
 }
 
 TEST_F(DiskFilesTest, TheLimitForTheSizeOfAFileKillsNoProgram) {
