@@ -7,6 +7,7 @@
 #include "console/fault.h"
 #include "console/options.h"
 #include "console/script.h"
+#include "platform/disk_files.h"
 #include "platform/folders.h"
 
 namespace caleidoscopio::console {
@@ -56,9 +57,9 @@ Status run(std::span<char* const> arguments) {
     std::cout << "caleidoscopio-console " CALEIDOSCOPIO_VERSION "\n";
     return done;
   }
-  Session session(options.root ? DiskFiles::under(*options.root)
-                               : DiskFiles::probing(candidateRoots(userSettings())),
-                  std::cout);
+  DiskFiles files = options.root ? DiskFiles::under(*options.root)
+                                 : DiskFiles::probing(candidateRoots(userSettings()));
+  Session session(files, std::cout);
   if (!options.script) {
     const Status status = runScript(session, std::cin, std::cerr);
     if (status == done && std::ferror(stdin))

@@ -1,10 +1,8 @@
 #include "console/session.h"
 
-#include <utility>
-
 namespace caleidoscopio::console {
 
-Session::Session(DiskFiles diskFiles, std::ostream& output)
-    : files(std::move(diskFiles)), out(output) {}
+Session::Session(TextFiles& textFiles, std::ostream& output)
+    : platform{clock, generator, textFiles, {}}, out(output) {}
 
 }  // namespace caleidoscopio::console

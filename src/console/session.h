@@ -4,18 +4,17 @@
 
 #include "console/chance.h"
 #include "instrument.h"
-#include "platform/disk_files.h"
 
 namespace caleidoscopio::console {
 
 /// An instrument with all that a script can set around it.
 struct Session {
-  Session(DiskFiles diskFiles, std::ostream& output);
+  /// `textFiles` and `output` must outlive the session.
+  Session(TextFiles& textFiles, std::ostream& output);
 
   ScriptClock clock;
   ScriptGenerator generator;
-  DiskFiles files;
-  Platform platform{clock, generator, files, {}};
+  Platform platform;
   Instrument instrument{platform};
   Store& s = instrument.s;
   bool started = false;
