@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
@@ -44,9 +45,10 @@ inline const std::map<std::string, std::string>& shippedFiles() {
   std::abort();
 }
 
-/// Runs `act`, which may end the run; the message must then be one line of plain text.
+/// Runs `act`, which may end the run; the message must then be one line of plain text, and one
+/// with one of the `ends` in it where there are any.
 template <class Act>
-bool lawful(Act act) {
+bool lawful(Act act, std::span<const std::string_view> ends = {}) {
   try {
     act();
   } catch (const RunEnded& end) {
@@ -55,6 +57,10 @@ bool lawful(Act act) {
     for (const char c : message)
       if (static_cast<unsigned char>(c) < 0x20 || c == 0x7F)
         finding("a byte that a terminal obeys");
+    if (!ends.empty() && std::none_of(ends.begin(), ends.end(), [&](std::string_view end) {
+          return message.find(end) != std::string_view::npos;
+        }))
+      finding("an end that no rule knows: " + std::string(message));
     return false;
   }
   return true;
