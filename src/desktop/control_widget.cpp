@@ -24,11 +24,20 @@ void prepare(QWidget& widget, const Spot& spot) {
   widget.setAttribute(Qt::WA_OpaquePaintEvent, !bare(spot.look));
 }
 
-void place(QWidget& widget, Element element) {
-  const QRect box = toPixels(element.control->geometry(element.index));
+/// The element of a spot, as the kind of thing that it is.
+template <class T>
+const T& shownAt(const Spot& spot) {
+  return *static_cast<const T*>(spot.element.control->element(spot.element.index));
+}
+
+const Geometry& placeOf(const Spot& spot) {
+  return spot.element.control->geometry(spot.element.index);
+}
+
+void place(QWidget& widget, const Frame& frame, const Geometry& geometry) {
+  const QRect box = toPixels(geometry);
   if (widget.geometry() != box) widget.setGeometry(box);
-  const bool visible = element.control->visible(element.index);
-  if (widget.isVisibleTo(widget.parentWidget()) != visible) widget.setVisible(visible);
+  if (widget.isVisibleTo(widget.parentWidget()) != frame.Visible) widget.setVisible(frame.Visible);
 }
 
 void drawFrame(QPainter& painter, const QRect& box, int line, const QColor& colour) {
@@ -45,31 +54,41 @@ ControlWidget::ControlWidget(const Spot& spot, Hand& hand, Driver& driver, QWidg
       spot_(spot),
       hand_(hand),
       driver_(driver),
+      label_(shownAt<Label>(spot)),
+      geometry_(placeOf(spot)),
       takesPress_(Hand::takesPress(spot.element)) {
   prepare(*this, spot);
   setMouseTracking(spot.element.control->handles(Event::MouseMove, spot.element.index));
   if (takesPress_) setCursor(Qt::PointingHandCursor);
   // The headings around the field are part of the bare form.
   if (spot.look == Look::Title && spot.withField) setAttribute(Qt::WA_TransparentForMouseEvents);
+  showTip();
   mirror();
 }
 
-const Label& ControlWidget::label() const {
-  return *static_cast<const Label*>(spot_.element.control->element(spot_.element.index));
+void ControlWidget::showTip() {
+  const QString tip = toolTipOf(driver_.store(), spot_.element);
+  // A title can look like markup; it is shown as it was typed.
+  setToolTip(Qt::mightBeRichText(tip) ? tip.toHtmlEscaped() : tip);
+  setAccessibleName(tip);
+}
+
+void ControlWidget::mirrorTitle() {
+  const std::string* title = titleUnder(driver_.store(), spot_.element);
+  if (title ? *title == title_ : title_.empty()) return;
+  title_ = title ? *title : std::string();
+  showTip();
 }
 
 void ControlWidget::mirror() {
-  const Label& now = label();
-  const double points = spot_.element.control->geometry(spot_.element.index).FontSize.value;
-  place(*this, spot_.element);
+  const Label& now = label_;
+  const double points = geometry_.FontSize.value;
+  place(*this, now, geometry_);
+  mirrorTitle();
   if (isEnabled() != now.Enabled) setEnabled(now.Enabled);
-  if (const QString tip = toolTipOf(driver_.store(), spot_.element); tip != accessibleName()) {
-    // A title can look like markup; it is shown as it was typed.
-    setToolTip(Qt::mightBeRichText(tip) ? tip.toHtmlEscaped() : tip);
-    setAccessibleName(tip);
-  }
-  if (caption_ == now.Caption && back_ == now.BackColor && fore_ == now.ForeColor &&
-      border_ == now.BorderStyle && points_ == points)
+  // Where no letter stands, its colour is not seen.
+  if (caption_ == now.Caption && back_ == now.BackColor && border_ == now.BorderStyle &&
+      points_ == points && (fore_ == now.ForeColor || now.Caption.empty()))
     return;
   caption_ = now.Caption;
   back_ = now.BackColor;
@@ -169,17 +188,16 @@ void ControlWidget::pressAndRelease() {
   hand_.release(true);
 }
 
-GroundWidget::GroundWidget(const Spot& spot, QWidget* parent) : QWidget(parent), spot_(spot) {
+GroundWidget::GroundWidget(const Spot& spot, QWidget* parent)
+    : QWidget(parent), frame_(shownAt<Frame>(spot)), geometry_(placeOf(spot)) {
   prepare(*this, spot);
   mirror();
 }
 
 void GroundWidget::mirror() {
-  place(*this, spot_.element);
-  const auto& frame =
-      *static_cast<const Frame*>(spot_.element.control->element(spot_.element.index));
-  if (back_ == frame.BackColor) return;
-  back_ = frame.BackColor;
+  place(*this, frame_, geometry_);
+  if (back_ == frame_.BackColor) return;
+  back_ = frame_.BackColor;
   update();
 }
 

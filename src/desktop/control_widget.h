@@ -16,6 +16,8 @@ class ControlWidget : public QWidget {
 
   /// Compares what is shown with what is there, and repaints only if it differs.
   void mirror();
+  /// The same for the tip of a memory's button, whose title stands elsewhere.
+  void mirrorTitle();
   /// The press of a person who uses no mouse.
   void pressAndRelease();
 
@@ -34,7 +36,7 @@ class ControlWidget : public QWidget {
   void mouseMoveEvent(QMouseEvent* event) override;
 
  private:
-  const Label& label() const;
+  void showTip();
   QFont letters() const;
   QRect textBox() const;
   int textFlags() const;
@@ -43,12 +45,15 @@ class ControlWidget : public QWidget {
   Spot spot_;
   Hand& hand_;
   Driver& driver_;
+  const Label& label_;
+  const Geometry& geometry_;
   bool takesPress_;
   // What is shown.
   std::string caption_;
   Colour back_, fore_;
   std::int32_t border_ = 0;
   double points_ = 0;
+  std::string title_;
 };
 
 /// A frame of the panels: a ground that clips its children and swallows what misses them.
@@ -62,7 +67,8 @@ class GroundWidget : public QWidget {
   void paintEvent(QPaintEvent* event) override;
 
  private:
-  Spot spot_;
+  const Frame& frame_;
+  const Geometry& geometry_;
   Colour back_;
 };
 

@@ -5,11 +5,26 @@
 #include <QPainter>
 #include <QToolTip>
 #include <algorithm>
+#include <utility>
 
 #include "desktop/looks.h"
 #include "desktop/tool_tips.h"
 
 namespace caleidoscopio {
+
+namespace {
+
+/// The first and the last of the columns or rows with these edges that lie between two pixels, both
+/// included; the first is past the last where none do.
+template <class Edges>
+std::pair<int, int> cellsBetween(const Edges& edges, int from, int to) {
+  const auto past = [&edges](int at) {
+    return static_cast<int>(std::upper_bound(edges.begin(), edges.end(), at) - edges.begin());
+  };
+  return {std::max(past(from) - 1, 0), std::min(past(to) - 1, side - 1)};
+}
+
+}  // namespace
 
 FieldWidget::FieldWidget(Driver& driver, Hand& hand, QWidget* parent)
     : QWidget(parent), driver_(driver), hand_(hand) {
@@ -33,6 +48,7 @@ void FieldWidget::measure() {
   const Geometry& last = s.lblMiro.geometry(indexAt({side - 1, side - 1}));
   across_.back() = edge(last.Left + last.Width);
   down_.back() = edge(last.Top + last.Height);
+  digits_ = lettersOf({s.lblMiro.geometry(1).FontSize.value * ratio_}, true);
 }
 
 QRect FieldWidget::deviceBox(int row, int column) const {
@@ -77,23 +93,35 @@ void FieldWidget::mirror() {
     surroundings_ = now;
     update();
   }
-  for (int row = 0; row < side; ++row) {
-    QRect run;  // neighbours in a row are asked for together
-    for (int column = 0; column < side; ++column) {
-      const int i = indexAt({row, column});
-      const Label& cell = s.lblMiro[i];
-      Shown& shown = shown_[static_cast<std::size_t>(i)];
-      if (shown.back != cell.BackColor || shown.fore != cell.ForeColor ||
-          shown.border != cell.BorderStyle || shown.caption != cell.Caption) {
-        shown = {cell.Caption, cell.BackColor, cell.ForeColor, cell.BorderStyle};
-        run |= deviceBox(row, column);
-      } else if (!run.isNull()) {
-        update(toLogical(run));
-        run = {};
-      }
-    }
-    if (!run.isNull()) update(toLogical(run));
+  CellSet changed;
+  for (int i = 1; i <= cellCount; ++i) {
+    const Label& cell = s.lblMiro[i];
+    Shown& shown = shown_[static_cast<std::size_t>(i)];
+    // Where no digit stands, its colour is not seen.
+    if (shown.back == cell.BackColor && shown.border == cell.BorderStyle &&
+        shown.caption == cell.Caption && (shown.fore == cell.ForeColor || cell.Caption.empty()))
+      continue;
+    shown = {cell.Caption, cell.BackColor, cell.ForeColor, cell.BorderStyle};
+    changed.set(static_cast<std::size_t>(i));
   }
+  if (changed.any()) ask(changed);
+}
+
+/// Neighbours in a row are asked for together.
+void FieldWidget::ask(const CellSet& cells) {
+  QRegion region;
+  for (int row = 0; row < side; ++row) {
+    const auto asked = [&](int column) {
+      return column < side && cells[static_cast<std::size_t>(indexAt({row, column}))];
+    };
+    for (int column = 0; column < side; ++column) {
+      if (!asked(column)) continue;
+      const int first = column;
+      while (asked(column + 1)) ++column;
+      region += toLogical(deviceBox(row, first) | deviceBox(row, column));
+    }
+  }
+  update(region);
 }
 
 void FieldWidget::paintContour(QPainter& painter) const {
@@ -146,25 +174,35 @@ void FieldWidget::paintEvent(QPaintEvent* event) {
   measure();
   QPainter painter(this);
   painter.scale(1 / ratio_, 1 / ratio_);
-  QFont digits = lettersOf({driver_.store().lblMiro.geometry(1).FontSize.value * ratio_}, true);
-  painter.setFont(digits);
+  painter.setFont(digits_);
   const QRect field = deviceField();
-  for (const QRect& part : event->region()) {
-    const QRect device(
+  const auto device = [this](const QRect& part) {
+    return QRect(
         QPoint(qFloor(part.left() * ratio_), qFloor(part.top() * ratio_)),
         QPoint(qCeil((part.right() + 1) * ratio_) - 1, qCeil((part.bottom() + 1) * ratio_) - 1));
-    painter.setClipRect(device);
-    if (!field.contains(device)) {
-      painter.fillRect(device, toScreen(surroundings_.ground));
-      paintContour(painter);
+  };
+  // The toolkit clips to the event's region. What lies under the cells comes first, so that a cell
+  // is painted once, however many parts it lies in.
+  bool around = false;
+  for (const QRect& part : event->region())
+    if (!field.contains(device(part))) {
+      painter.fillRect(device(part), toScreen(surroundings_.ground));
+      around = true;
     }
-    for (int row = 0; row < side; ++row) {
-      if (!deviceBox(row, 0).united(deviceBox(row, side - 1)).intersects(device)) continue;
-      for (int column = 0; column < side; ++column)
-        if (deviceBox(row, column).intersects(device)) paintCell(painter, row, column);
-    }
-    paintQuadrant(painter);
+  if (around) paintContour(painter);
+  CellSet painted;
+  for (const QRect& part : event->region()) {
+    const QRect box = device(part);
+    const auto [top, bottom] = cellsBetween(down_, box.top(), box.bottom());
+    const auto [left, right] = cellsBetween(across_, box.left(), box.right());
+    for (int row = top; row <= bottom; ++row)
+      for (int column = left; column <= right; ++column) {
+        const auto at = static_cast<std::size_t>(indexAt({row, column}));
+        if (!painted[at]) paintCell(painter, row, column);
+        painted.set(at);
+      }
   }
+  paintQuadrant(painter);
 }
 
 Element FieldWidget::elementAt(const QPoint& point) const {

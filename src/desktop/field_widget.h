@@ -2,6 +2,7 @@
 
 #include <QWidget>
 #include <array>
+#include <bitset>
 #include <string>
 
 #include "desktop/hand.h"
@@ -40,6 +41,7 @@ class FieldWidget : public QWidget {
     std::int32_t border = 0;
     bool operator==(const Shown&) const = default;
   };
+  using CellSet = std::bitset<cellCount + 1>;  ///< by index
   /// Everything on the form that is no cell.
   struct Surroundings {
     Colour ground, contour;
@@ -49,6 +51,7 @@ class FieldWidget : public QWidget {
   };
 
   void measure();
+  void ask(const CellSet& cells);
   QRect deviceBox(int row, int column) const;
   QRect deviceField() const;
   QRect toLogical(const QRect& device) const;
@@ -63,6 +66,7 @@ class FieldWidget : public QWidget {
   // Left or top edges of the columns and rows in device pixels, and the last far edge: each cell
   // ends where the next begins, so that no gap shows at any scale.
   std::array<int, side + 1> across_{}, down_{};
+  QFont digits_;  ///< in device pixels, too
   std::array<Shown, cellCount + 1> shown_;
   Surroundings surroundings_;
   long long paintedCells_ = 0;

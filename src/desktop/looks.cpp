@@ -18,8 +18,10 @@ QColor toScreen(Colour colour) {
       {0x8000000F, 0xFFE9E6DC},  // button face
       {0x80000012, 0xFF000000},  // button letters
   };
-  for (const SystemColour& system : systemColours)
-    if (system.number == colour.value) return QColor::fromRgb(system.rgb);
+  constexpr std::uint32_t ofTheSystem = 0x80000000;
+  if ((colour.value & ofTheSystem) != 0)
+    for (const SystemColour& system : systemColours)
+      if (system.number == colour.value) return QColor::fromRgb(system.rgb);
   return QColor(static_cast<int>(colour.value & 0xFF), static_cast<int>(colour.value >> 8 & 0xFF),
                 static_cast<int>(colour.value >> 16 & 0xFF));
 }

@@ -197,8 +197,8 @@ constexpr Tip tips[] = {
 };
 // clang-format on
 
-/// The title of the memory that a button or a line of the list stands for, or null for anything
-/// else.
+}  // namespace
+
 const std::string* titleUnder(const Store& s, Element element) {
   if (element.control == &s.lblComb) return &s.lblComb[element.index].Caption;
   if (element.control != &s.lblSave || element.index == 10) return nullptr;
@@ -207,8 +207,6 @@ const std::string* titleUnder(const Store& s, Element element) {
   const std::int64_t n = element.index + 10 * std::int64_t{bank.value_or(-1)};
   return 0 <= n && n <= 99 ? &s.lblComb[n].Caption : nullptr;
 }
-
-}  // namespace
 
 QString toolTipOf(const Store& s, Element element) {
   if (element.control == &s.lblBreakMode)

@@ -14,6 +14,7 @@
 namespace caleidoscopio {
 
 namespace {
+
 constexpr int enterKey = 13;
 
 /// A title is one line of a file, and the clipboard holds more than one.
@@ -24,6 +25,17 @@ QString oneLine(QString typed) {
       letter = ' ';
   return typed;
 }
+
+bool same(const Label& a, const Label& b) {
+  return a.BackColor == b.BackColor && a.ForeColor == b.ForeColor &&
+         a.BorderStyle == b.BorderStyle && a.Enabled == b.Enabled && a.Visible == b.Visible &&
+         a.Caption == b.Caption;
+}
+bool same(const Geometry& a, const Geometry& b) {
+  return a.Left == b.Left && a.Top == b.Top && a.Width == b.Width && a.Height == b.Height &&
+         a.FontSize == b.FontSize;
+}
+
 }  // namespace
 
 NamingBox::NamingBox(const Spot& spot, Driver& driver, QWidget* parent)
@@ -45,7 +57,7 @@ void NamingBox::mirror() {
   const Geometry& now = spot_.element.control->geometry(spot_.element.index);
   const QRect place = toPixels(now);
   if (geometry() != place) setGeometry(place);
-  if (font() != lettersOf(now.FontSize)) setFont(lettersOf(now.FontSize));
+  if (letters_ != now.FontSize) setFont(lettersOf(letters_ = now.FontSize));
   const QString written = QString::fromStdString(box().Text);
   if (text() != written) setText(written);
 }
@@ -135,9 +147,15 @@ void WidgetTree::build(QWidget& root, Element rootControl, std::span<const Spot>
         grounds_.push_back(new GroundWidget(spot, parent->second));
         parents_[{spot.element.control, spot.element.index}] = grounds_.back();
         break;
-      case Kind::Label:
-        controls_.push_back(new ControlWidget(spot, hand, driver, parent->second));
+      case Kind::Label: {
+        auto* control = new ControlWidget(spot, hand, driver, parent->second);
+        const auto& [owner, index] = spot.element;
+        const auto* label = static_cast<const Label*>(owner->element(index));
+        const Geometry& place = owner->geometry(index);
+        controls_.push_back({control, label, &place, *label, place});
+        if (spot.element.control == &driver.store().lblSave) memories_.push_back(control);
         break;
+      }
       case Kind::TextBox:
         boxes_.push_back(new NamingBox(spot, driver, parent->second));
         break;
@@ -154,7 +172,13 @@ void WidgetTree::mirror() {
   // What a frame holds is brought up to date before the frame shows it.
   for (NamingBox* box : boxes_) box->mirror();
   for (ImageWidget* image : images_) image->mirror();
-  for (ControlWidget* control : controls_) control->mirror();
+  for (Watched& control : controls_)
+    if (!same(control.shown, *control.now) || !same(control.shownAt, *control.nowAt)) {
+      control.shown = *control.now;
+      control.shownAt = *control.nowAt;
+      control.widget->mirror();
+    }
+  for (ControlWidget* memory : memories_) memory->mirrorTitle();
   for (GroundWidget* ground : grounds_) ground->mirror();
 }
 

@@ -28,6 +28,7 @@ class NamingBox : public QLineEdit {
   TextBox& box() const;
   Spot spot_;
   Driver& driver_;
+  Points letters_{0};
 };
 
 /// The picture of the end: the field as it stood, its square rings bent into circles.
@@ -55,10 +56,20 @@ class WidgetTree {
   void mirror();
 
  private:
+  /// A copy of a label beside it, all in one block: after every handler hundreds are compared, and
+  /// only those that differ are looked up among the widgets.
+  struct Watched {
+    ControlWidget* widget;
+    const Label* now;
+    const Geometry* nowAt;
+    Label shown;
+    Geometry shownAt;
+  };
   using Key = std::pair<const Control*, int>;
   std::map<Key, QWidget*> parents_;
   std::vector<GroundWidget*> grounds_;
-  std::vector<ControlWidget*> controls_;
+  std::vector<Watched> controls_;
+  std::vector<ControlWidget*> memories_;  ///< the buttons whose tips are titles
   std::vector<NamingBox*> boxes_;
   std::vector<ImageWidget*> images_;
 };
