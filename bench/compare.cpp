@@ -3,6 +3,7 @@
 #include <benchmark/benchmark.h>
 
 #include <algorithm>
+#include <charconv>
 #include <cstdio>
 #include <map>
 
@@ -18,13 +19,9 @@ class Collector : public benchmark::BenchmarkReporter {
     for (const Run& run : runs)
       times_[run.run_name.function_name].push_back(run.GetAdjustedCPUTime());
   }
+  /// False for what the library's filter left out.
   bool has(const std::string& name) const { return times_.contains(name); }
-  double median(const std::string& name) {
-    std::vector<double>& times = times_[name];
-    std::sort(times.begin(), times.end());
-    const std::size_t half = times.size() / 2;
-    return times.size() % 2 == 1 ? times[half] : (times[half - 1] + times[half]) / 2;
-  }
+  double medianOf(const std::string& name) { return median(times_[name]); }
 
  private:
   std::map<std::string, std::vector<double>> times_;
@@ -58,17 +55,45 @@ bool doTheSame(const Row& row) {
   return true;
 }
 
-/// Prints a line of the table; true if the ratio is within its aim.
-bool print(const Row& row, Collector& collected) {
-  const double ours = collected.median(oursOf(row));
-  const double bare = collected.median(bareOf(row));
-  const bool within = ours <= row.aim * bare;
-  std::printf("| %-42s | %10.0f | %10.0f | %5.2f | %3.1f |%s\n", row.name.c_str(), ours, bare,
-              ours / bare, row.aim, within ? "" : " OVER");
+}  // namespace
+
+bool takeOption(std::string_view argument, Options& options) {
+  constexpr std::string_view turns = "--turns=";
+  if (argument == "--ignore-aims") {
+    options.ignoreAims = true;
+    return true;
+  }
+  if (argument == "--no-heading") {
+    options.heading = false;
+    return true;
+  }
+  if (!argument.starts_with(turns)) return false;
+  argument.remove_prefix(turns.size());
+  std::from_chars(argument.data(), argument.data() + argument.size(), options.turns);
+  return options.turns > 0;
+}
+
+void printHeading(const Options& options) {
+  if (!options.heading) return;
+  std::printf("Processor time in ns where a line says nothing else, ");
+  std::printf("median of %d turns taken alternately\n\n", options.turns);
+  std::printf("| %-42s | %10s | %10s | %5s | %3s |\n", "", "instrument", "bare", "ratio", "aim");
+  std::printf("|%s|%s|%s|%s|%s|\n", "---", "--:", "--:", "--:", "--:");
+}
+
+bool printLine(const std::string& name, double ours, double bare, double aim) {
+  const bool within = ours <= aim * bare;
+  std::printf("| %-42s | %10.0f | %10.0f | %5.2f | %3.1f |%s\n", name.c_str(), ours, bare,
+              ours / bare, aim, within ? "" : " OVER");
+  std::fflush(stdout);
   return within;
 }
 
-}  // namespace
+double median(std::vector<double> values) {
+  std::sort(values.begin(), values.end());
+  const std::size_t half = values.size() / 2;
+  return values.size() % 2 == 1 ? values[half] : (values[half - 1] + values[half]) / 2;
+}
 
 bool compare(const Rows& rows, const Options& options) {
   bool well = true;
@@ -80,12 +105,11 @@ bool compare(const Rows& rows, const Options& options) {
   Collector collected;
   for (int turn = 1; turn <= options.turns; ++turn) benchmark::RunSpecifiedBenchmarks(&collected);
 
-  std::printf("Processor time in ns, median of %d turns taken alternately\n\n", options.turns);
-  std::printf("| %-42s | %10s | %10s | %5s | %3s |\n", "", "instrument", "bare", "ratio", "aim");
-  std::printf("|%s|%s|%s|%s|%s|\n", "---", "--:", "--:", "--:", "--:");
+  printHeading(options);
   for (const Row& row : rows) {
-    if (!collected.has(oursOf(row)) || !collected.has(bareOf(row))) continue;  // filtered out
-    const bool within = print(row, collected);
+    if (!collected.has(oursOf(row)) || !collected.has(bareOf(row))) continue;
+    const bool within = printLine(row.name, collected.medianOf(oursOf(row)),
+                                  collected.medianOf(bareOf(row)), row.aim);
     well = (within || options.ignoreAims) && well;
   }
   return well;

@@ -4,9 +4,11 @@
 #include <memory>
 #include <random>
 #include <string_view>
+#include <variant>
 
 #include "field.h"
 #include "memories/memory_files.h"
+#include "panel/properties.h"
 #include "platform/disk_files.h"
 #include "rows.h"
 
@@ -42,12 +44,42 @@ std::vector<std::string_view> split(std::string_view text) {
   return lines;
 }
 
+/// A line of a memory as a plain value.
+using Plain = std::variant<std::string, std::int32_t, bool>;
+
+std::vector<Plain> plainValues(std::string_view text) {
+  std::vector<Plain> values;
+  for (const std::string_view line : split(text))
+    if (line.starts_with('"'))
+      values.emplace_back(std::string(line.substr(1, line.size() - 2)));
+    else if (line.starts_with('#'))
+      values.emplace_back(line == "#TRUE#");
+    else
+      values.emplace_back(wholeNumber(line).value());
+  return values;
+}
+
+std::string formatted(const std::vector<Plain>& values) {
+  std::string text;
+  for (const Plain& value : values) {
+    if (const auto* words = std::get_if<std::string>(&value))
+      text += '"' + *words + '"';
+    else if (const auto* number = std::get_if<std::int32_t>(&value))
+      text += std::to_string(*number);
+    else
+      text += std::get<bool>(value) ? "#TRUE#" : "#FALSE#";
+    text += "\r\n";
+  }
+  return text;
+}
+
 struct Sides {
   Folder folder;
   DiskFiles files = DiskFiles::under(folder.path);
   Rig rig{files};
   BareField bare;
   std::string memory = folder.path + "/Miro-Vel-Ta/Save/0.txt";
+  std::string bareMemory = "Miro-Vel-Ta/Save/1.txt";
   std::size_t lines = 0;
 };
 
@@ -60,7 +92,7 @@ void addMemoryRows(Rows& rows) {
   s.lblSelez.Caption = "0";
   SalvaMemoria(s);
   const std::string written = fileText(sides->memory);
-  rows.push_back({"load a memory", 4.0, [&s] { CaricaMemoria(s); },
+  rows.push_back({"load a memory", 3.0, [&s] { CaricaMemoria(s); },
                   [sides] {
                     const std::string text = fileText(sides->memory);
                     const auto lines = split(text);
@@ -71,6 +103,16 @@ void addMemoryRows(Rows& rows) {
                     // What was read is what stands in the file, line for line.
                     SalvaMemoria(s);
                     return sides->lines == 1869 && fileText(sides->memory) == written;
+                  }});
+  rows.push_back({"save a memory", 2.0, [&s] { SalvaMemoria(s); },
+                  [sides, values = plainValues(written)] {
+                    std::string why;
+                    sides->files.write(sides->bareMemory, formatted(values), why);
+                  },
+                  [sides] {
+                    const std::string saved = fileText(sides->memory);
+                    return !saved.empty() &&
+                           fileText(sides->folder.path + "/" + sides->bareMemory) == saved;
                   }});
 }
 

@@ -16,7 +16,10 @@ void addColourRows(Rows& rows);
 void addFrameRows(Rows& rows);
 /// One sweep tick of each of the twelve Breaks, painting and uncovering.
 void addBreakRows(Rows& rows);
-/// Loading a memory, beside reading the file and splitting its lines.
+/// A pass over a whole plane: the commit, and the copy of the design to the display.
+void addPlaneRows(Rows& rows);
+/// Loading a memory, beside reading the file and splitting its lines; saving one, beside writing
+/// the same values by the same safe replacement.
 void addMemoryRows(Rows& rows);
 
 }  // namespace caleidoscopio::bench
