@@ -52,6 +52,6 @@ folder=$XDG_DATA_HOME/caleidoscopio/Miro-Vel-Ta/Dati
 # the window is there.
 refused Default.txt 6 '"Disegno"' "$folder/Default.txt, line 6, TmrSequencer.Interval: found '\"Disegno\"'; expected a whole number of 32 bits"
 refused Default.txt 178 $'<b>\x1b[31m' "$folder/Default.txt, line 178, FraPannello(2).Visible: found '<b>\\x1B[31m'; expected #TRUE# or #FALSE#"
-refused Memorie.txt 3 '"#"' "lblMemo(0).Caption is \"#\"; expected a whole number of 32 bits"
+refused Default.txt 1166 '"#"' 'lblComCol(2).Caption is "#"; expected a whole number of 32 bits'
 refused Default.txt 1802 '"0"' 'division by zero: a random pick among 0; expected 1 or more; lblRndC(0).Caption is "0"'
 echo "refused as they should be"
