@@ -31,10 +31,6 @@ bool same(const Label& a, const Label& b) {
          a.BorderStyle == b.BorderStyle && a.Enabled == b.Enabled && a.Visible == b.Visible &&
          a.Caption == b.Caption;
 }
-bool same(const Geometry& a, const Geometry& b) {
-  return a.Left == b.Left && a.Top == b.Top && a.Width == b.Width && a.Height == b.Height &&
-         a.FontSize == b.FontSize;
-}
 
 }  // namespace
 
@@ -151,8 +147,7 @@ void WidgetTree::build(QWidget& root, Element rootControl, std::span<const Spot>
         auto* control = new ControlWidget(spot, hand, driver, parent->second);
         const auto& [owner, index] = spot.element;
         const auto* label = static_cast<const Label*>(owner->element(index));
-        const Geometry& place = owner->geometry(index);
-        controls_.push_back({control, label, &place, *label, place});
+        controls_.push_back({control, label, *label});
         if (spot.element.control == &driver.store().lblSave) memories_.push_back(control);
         break;
       }
@@ -173,9 +168,8 @@ void WidgetTree::mirror() {
   for (NamingBox* box : boxes_) box->mirror();
   for (ImageWidget* image : images_) image->mirror();
   for (Watched& control : controls_)
-    if (!same(control.shown, *control.now) || !same(control.shownAt, *control.nowAt)) {
+    if (!same(control.shown, *control.now)) {
       control.shown = *control.now;
-      control.shownAt = *control.nowAt;
       control.widget->mirror();
     }
   for (ControlWidget* memory : memories_) memory->mirrorTitle();

@@ -57,13 +57,12 @@ class WidgetTree {
 
  private:
   /// A copy of a label beside it, all in one block: after every handler hundreds are compared, and
-  /// only those that differ are looked up among the widgets.
+  /// only those that differ are looked up among the widgets. Where a label stands is not compared:
+  /// it is settled by the start, before there is a window; only frames move later.
   struct Watched {
     ControlWidget* widget;
     const Label* now;
-    const Geometry* nowAt;
     Label shown;
-    Geometry shownAt;
   };
   using Key = std::pair<const Control*, int>;
   std::map<Key, QWidget*> parents_;
