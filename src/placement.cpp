@@ -205,13 +205,13 @@ const Panel panels[] = {
         {"lblComCol", {6, 1}, {left + 1035, 4260, half, line}, Button},
         {"lblComCol", {7, 2}, {left, 4530, half, line}, Choice, 8, {1035, 0, 2}},
 
-        {"lblScritteVarie", {10, 1}, {left, 4900, 690, line}, Heading},
-        {"lblValAttivo", {0, 1}, {885, 4900, 570, 225}, Swatch},
-        {"lblScritteVarie", {16, 1}, {1485, 4900, 735, line}, Heading, 6.75},
+        {"lblScritteVarie", {10, 1}, {left, 4900, 600, line}, Heading},
+        {"lblValAttivo", {0, 1}, {765, 4900, 570, 225}, Swatch},
+        {"lblScritteVarie", {16, 1}, {1410, 4900, 735, line}, Heading, 6.75},
         {"lblValore", {0, 7}, {left, 5175, 180, line}, Swatch, 8, {195, 0, 7}},
         {"lblSfondo", {0, 7}, {left, 5445, 180, line}, Swatch, 8, {195, 0, 7}},
         {"lblPiù", {0, 7}, {left, 5715, 180, line}, Stepper, 8, {195, 0, 7}},
-        {"lblTotali", {0, 25}, {1530, 5175, 120, 150}, Swatch, 8, {123, 158, 5}},
+        {"lblTotali", {0, 25}, {1560, 5190, 105, 135}, Swatch, 8, {120, 150, 5}},
         {"lblSelSfondo", {0, 3}, {left, 6045, third, line}, Choice, 8, {690, 0, 3}},
 
         {"lblScritteVarie", {11, 1}, {left, 6485, full, line}, Heading},
