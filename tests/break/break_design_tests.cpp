@@ -164,6 +164,42 @@ TEST_F(BreakDesign, ArmDotsWithoutTheCentreDropTheSlotDrawnForIt) {
   noDrawLeft();
 }
 
+TEST_F(BreakDesign, TwoDotsOfOneSlotOnOneQuartetStayPainted) {
+  // A second hit of a person's brush would take the dot away; nothing toggles here.
+  s.lblCrea[3].Caption = s.lblCrea[5].Caption = "2";
+  s.lblCrea[4].Caption = s.lblCrea[6].Caption = "00";  // of dots the number counts, not the text
+  rig.pick(1, 7);
+  rig.pick(1, 2);
+  for (int dot = 0; dot < 2; ++dot) {
+    rig.pick(4, 7);
+    rig.pick(1, 9);
+  }
+  rig.pick(2, 3);
+  rig.pick(2, 3);
+  for (int dot = 0; dot < 2; ++dot) {
+    rig.pick(6, 7);
+    rig.pick(9, 9);
+  }
+  DisegnoBreak(s);
+  EXPECT_EQ(cellsOf(3), quartets({329}));
+  EXPECT_EQ(cellsOf(5), quartets({397, 433}));
+  EXPECT_EQ(paintedCells().size(), 12U);
+  noDrawLeft();
+}
+
+TEST_F(BreakDesign, TwoRectanglesOfOneSlotOnOnePlaceStayPainted) {
+  s.lblCrea[1].Caption = "2";
+  for (int rectangle = 0; rectangle < 2; ++rectangle) {
+    rig.pick(1, 81);
+    rig.pick(2, 81);
+    rig.pick(3, 7);
+  }
+  DisegnoBreak(s);
+  EXPECT_EQ(cellsOf(2), quartets({1, 5}));
+  EXPECT_EQ(paintedCells(), cellsOf(2));
+  noDrawLeft();
+}
+
 TEST_F(BreakDesign, TheOnlyArmDotCanBeTheCentre) {
   s.lblCrea[4].Caption = "3";
   rig.pick(1, 3);

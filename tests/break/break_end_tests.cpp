@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "break_rig.h"
+#include "support/run_end.h"
 
 namespace caleidoscopio::test {
 namespace {
@@ -217,6 +218,23 @@ TEST_F(BreakEnd, ANewDesignIsDrawnAndThenItsGroundTakesTheSweptColour) {
   EXPECT_EQ(s.lblCrea[8].Caption, "mine");
 }
 
+TEST_F(BreakEnd, AWaitBeyondSixteenBitsEndsTheRunWithTheButtonsFreeAndTheFieldAsItWasSwept) {
+  s.lblBreakMode[19].BackColor = colours::unselected;
+  for (const char* ms : {"40000", "32768"})
+    for (const char* kind : {"N", "U"}) {
+      wait(ms);
+      s.lblBrk[5].Caption = "";
+      sweep(kind);
+      makeEveryCellItsOwn(s);
+      const auto display = planeOf(s.lblMiro);
+      EXPECT_TRUE(endsTheRun([&] { rig.tick(); }, {"lblBreakMode(16).Caption", ms, "16 bits"}));
+      EXPECT_FALSE(rig.locked());
+      EXPECT_FALSE(s.TmrBreak.Enabled() || s.TmrAspetta.Enabled());
+      EXPECT_EQ(s.lblBrk[5].Caption, *kind == 'N' ? "4000" : "") << "the pause was drawn before";
+      EXPECT_EQ(planeOf(s.lblMiro), display);
+    }
+}
+
 // ---- hand-over --------------------------------------------------------------------------------
 
 TEST_F(BreakEnd, StartedByHandWhileStoppedItEndsWithNothingMore) {
@@ -239,6 +257,50 @@ TEST_F(BreakEnd, WhileRunningItHandsBackByAWholeGo) {
   EXPECT_TRUE(s.TmrBrk.Enabled());
   EXPECT_FALSE(s.TmrGoB.Enabled()) << "the switches decide";
   EXPECT_EQ(s.lblMiro2[441 + 5].Caption, "p5") << "Go took its snapshot";
+}
+
+TEST_F(BreakEnd, WhileRunningKindThreeDrawsItsPauseTwiceWithTheColoursIntervalBetween) {
+  running();
+  s.lblTmrRndCol[3].Caption = "4";
+  sweep("N");
+  rig.generator.otherwise.reset();
+  rig.pick(1, 3);
+  rig.pick(4, 5);  // Go: the interval of F
+  rig.pick(3, 3);  // Go: the pause again, and this one holds
+  rig.tick();
+  EXPECT_TRUE(rig.generator.queue.empty());
+  EXPECT_EQ(s.lblTmrRndCol[6].Caption, "4000");
+  EXPECT_EQ(s.lblBrk[5].Caption, "5000");
+  EXPECT_EQ(s.TmrBrk.Interval(), 5000);
+}
+
+TEST_F(BreakEnd, TheDrawsOfGoComeBeforeThoseOfTheNewColoursAndTheNewDesign) {
+  for (const char* kind : {"U", "C"}) {
+    BreakRig own;
+    Store& t = own.s;
+    t.cmdGoTimer.BackColor = colours::running;
+    t.lblTmrRndCol[3].Caption = "4";
+    t.lblCrea[1].Caption = "1";
+    own.kind(kind);
+    own.start();
+    own.sweepToLast();
+    t.lblColSCelto.Caption = "5";
+    own.generator.otherwise.reset();
+    if (*kind == 'C') own.pick(6, 7);  // the colour of the ending tick is drawn first of all
+    own.pick(2, 5);
+    own.pick(3, 3);
+    for (int p = 41; p <= 47; ++p) own.pick(p, 101);
+    own.pick(1, 81);
+    own.pick(1, 81);
+    own.pick(4, 7);
+    own.tick();
+    EXPECT_TRUE(own.generator.queue.empty()) << kind;
+    EXPECT_EQ(t.lblTmrRndCol[6].Caption, "2000");
+    EXPECT_EQ(t.lblBrk[5].Caption, "5000");
+    for (int k = 0; k <= 6; ++k) EXPECT_EQ(t.lblTav[k].Caption, std::to_string(41 + k));
+    EXPECT_EQ(t.lblMiro[1].BackColor, t.lblColore[44].BackColor);
+    EXPECT_EQ(t.lblSfondoAttivo.Caption, "5") << kind;
+  }
 }
 
 TEST_F(BreakEnd, TheGoComesBeforeTheFieldIsFilled) {
@@ -330,6 +392,34 @@ TEST_F(BreakEnd, AKindOneThatARepeatFollowsWithKindThreeIsNotFilled) {
   rig.kind("N");
   rig.tick();
   EXPECT_EQ(planeOf(s.lblMiro), display);
+}
+
+TEST_F(BreakEnd, TheDesignOfABreakThatARepeatFollowsComesAfterTheNextStartAndOnItsSlot) {
+  repeat();
+  s.lblBreakMode[26].BackColor = colours::unselected;
+  s.lblComCol[7].BackColor = colours::selected;  // the design lays the ground, slot 0
+  s.lblSelSfondo[3].Caption = "2";               // the whole picture
+  s.lblCrea[1].Caption = "1";
+  sweep("U");
+  ASSERT_NE(s.lblColSCelto.Caption, "6");
+  rig.generator.otherwise.reset();
+  rig.pick(7, 7);  // the next start: its slot
+  rig.pick(1, 1);  // and its pattern
+  rig.pick(1, 81);
+  rig.pick(2, 81);
+  rig.pick(3, 7);
+  rig.tick();
+  EXPECT_TRUE(rig.generator.queue.empty());
+  EXPECT_TRUE(s.TmrBreak.Enabled());
+  EXPECT_TRUE(rig.locked());
+  EXPECT_EQ(s.lblBreak.Caption, "12");
+  EXPECT_EQ(s.lblSfondoAttivo.Caption, "6");
+  // What the first Break swept in is gone: the ground is the colour of the Break that now sweeps.
+  for (int i = 1; i <= 441; ++i) {
+    const Label& slot = s.lblValore[i <= 8 ? 2 : 6];
+    EXPECT_EQ(s.lblMiro[i].BackColor, slot.BackColor) << i;
+    EXPECT_EQ(tripleOf(s.lblMiro2[i]), tripleOf(slot)) << i;
+  }
 }
 
 TEST_F(BreakEnd, EachBreakOfARepeatChoosesItsKindAgain) {

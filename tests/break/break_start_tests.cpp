@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "break_rig.h"
+#include "support/run_end.h"
 
 namespace caleidoscopio::test {
 namespace {
@@ -286,6 +287,23 @@ TEST_F(BreakStart, TheTickLengthIsTakenAtTheStart) {
   s.lblTmrBreak.raise(Event::MouseDown, 2);
   s.lblTmrBreak.raise(Event::MouseUp, 2);
   EXPECT_EQ(s.TmrBreak.Interval(), 250) << "a change is felt at the next Break";
+}
+
+TEST_F(BreakStart, ATickLengthBeyondSixteenBitsEndsTheRunWithTheButtonsAlreadyLocked) {
+  for (const char* ms : {"40000", "32768", "-32769"}) {
+    BreakRig own;
+    Store& t = own.s;
+    own.anyDraws();
+    t.TmrGoA.setEnabled(true);
+    t.lblTmrBreak[0].Caption = ms;
+    EXPECT_TRUE(endsTheRun([&] { click(t.Command7); }, {"lblTmrBreak(0).Caption", ms, "16 bits"}));
+    EXPECT_TRUE(own.locked());
+    EXPECT_EQ(t.lblBreakMode[1].BackColor, runningPattern);
+    EXPECT_EQ(t.lblBreakMode[20].Caption, "Orizzontale (Out)");
+    EXPECT_FALSE(t.TmrGoA.Enabled());
+    EXPECT_FALSE(t.TmrBreak.Enabled());
+    EXPECT_EQ(t.TmrBreak.Interval(), 3000);
+  }
 }
 
 TEST(BreakDefaults, AmongElevenPatternsAtRandomAlternatingFromOut) {

@@ -1,8 +1,11 @@
 // Every event in every state: what a hand, a timer or a memory does to a Break under way.
 #include <gtest/gtest.h>
 
+#include <cstdlib>
+
 #include "break_rig.h"
 #include "memories/memory_files.h"
+#include "mosaic/index_map.h"
 
 namespace caleidoscopio::test {
 namespace {
@@ -83,6 +86,88 @@ TEST_F(BreakStates, AtRandomTheMarkedPatternDoesNotCountInASecondStart) {
   EXPECT_EQ(s.lblBreak.Caption, "7");
   rig.runOut();
   EXPECT_FALSE(rig.locked());
+}
+
+TEST_F(BreakStates, InOrderASecondStartThatFindsNoneSelectedTakesThePatternTwentyStepsOn) {
+  // Nor does it count in order: twenty steps from 5, round the twelve, lead to 1.
+  rig.only(5);
+  s.lblBreakMode[24].Caption = "Seq";
+  sweeping();
+  ASSERT_EQ(s.lblBreakMode[17].Caption, "5");
+  s.TmrBrk.raise(Event::Tick);
+  EXPECT_EQ(s.lblBreakMode[17].Caption, "1");
+  EXPECT_EQ(s.lblBreakMode[25].Caption, "1");
+  EXPECT_EQ(s.lblBreak.Caption, "12");
+  for (int i : {1, 5}) EXPECT_EQ(s.lblBreakMode[i].BackColor, runningPattern) << i;
+  rig.runOut();
+  // One was counted and two are selected now: neither is taken for more than the last.
+  for (int i : {1, 5}) {
+    EXPECT_EQ(s.lblBreakMode[i].BackColor, colours::selected) << i;
+    click(s.lblBreakMode, i);
+    EXPECT_EQ(s.lblBreakMode[i].BackColor, colours::selected) << i;
+    EXPECT_EQ(s.lblBreakMode[0].Caption, "1");
+  }
+}
+
+TEST_F(BreakStates, ASecondStartOfColourGoesOnAtTheCountOfTheSweepThatUncovered) {
+  makeEveryCellItsOwn(s);
+  s.lblVoceOpzioni[2].Caption = "Y";
+  s.lblBreakMode[19].BackColor = colours::unselected;
+  rig.kind("R");
+  rig.pick(3, 3);
+  rig.pick(1, 1);
+  sweeping(5);
+  rig.pick(1, 3);  // kind
+  rig.pick(3, 7);  // slot
+  rig.pick(1, 1);  // among a count of one, of which none is found: the sweep stays where it was
+  s.TmrBrk.raise(Event::Tick);
+  EXPECT_EQ(s.lblTrans.Caption, "1");
+  EXPECT_EQ(s.lblBreak.Caption, "7");
+  rig.tick();
+  for (int i = 1; i <= 441; ++i) {
+    const int away = std::abs(placeOf(i).row - 10);
+    const std::string at = std::to_string(i);
+    EXPECT_EQ(s.lblMiro[i].Caption, away < 5 ? "p" + at : away == 5 ? "2" : "d" + at) << i;
+    // The colour commits the plane, so that what was not uncovered yet is lost.
+    EXPECT_EQ(s.lblMiro2[i].BackColor, s.lblMiro[i].BackColor) << i;
+  }
+  rig.runOut();
+  for (int i = 1; i <= 441; ++i) EXPECT_EQ(tripleOf(s.lblMiro[i]), tripleOf(s.lblValore[2])) << i;
+  EXPECT_EQ(s.lblBrk[5].Caption, "") << "it ends as a Break of colour, which draws no pause";
+}
+
+TEST_F(BreakStates, ASecondStartThatUncoversGoesOnAtTheCountOfTheSweepOfColour) {
+  makeEveryCellItsOwn(s);
+  s.lblCrea[10].BackColor = colours::selected;
+  s.lblValoreB[0].BackColor = {0xABCDEF};
+  rig.kind("R");
+  rig.pick(1, 3);
+  rig.pick(3, 7);
+  rig.pick(1, 1);
+  sweeping(5);
+  rig.pick(3, 3);
+  rig.pick(1, 1);
+  s.TmrBrk.raise(Event::Tick);
+  EXPECT_EQ(s.lblTrans.Caption, "3");
+  EXPECT_EQ(s.lblBreak.Caption, "7");
+  rig.tick();
+  const Colour painted = s.lblValore[2].BackColor;
+  for (int i = 1; i <= 441; ++i) {
+    const int away = std::abs(placeOf(i).row - 10);
+    const Colour untouched{0x100000U + static_cast<std::uint32_t>(i)};
+    EXPECT_EQ(s.lblMiro[i].BackColor, away < 5    ? painted
+                                      : away == 5 ? Colour{0xABCDEF}
+                                                  : untouched)
+        << i;
+  }
+  rig.runOut();
+  // It ends as kind 3 does, and the part that was painted stays on the display.
+  EXPECT_EQ(s.lblBrk[5].Caption, "4000");
+  EXPECT_EQ(s.lblValore[0].BackColor, Colour{0xABCDEF});
+  for (int i = 1; i <= 441; ++i)
+    EXPECT_EQ(s.lblMiro[i].BackColor,
+              std::abs(placeOf(i).row - 10) < 5 ? painted : Colour{0xABCDEF})
+        << i;
 }
 
 TEST_F(BreakStates, StopInMidSweepLetsItRunOutAndNothingFollows) {
@@ -250,6 +335,76 @@ TEST_F(BreakStates, OptionsOfTheBreakTimerMoveWhileItSweeps) {
   EXPECT_EQ(s.TmrBrk.Interval(), 3100);
 }
 
+// ---- TmrBrk, still on through a Break by hand -------------------------------------------------
+
+/// Breaks of one colour, which draw no pause of their own: what Go draws is all.
+struct BreakTimerThrough : BreakStates {
+  void SetUp() override {
+    rig.kind("U");
+    s.lblBreakMode[19].BackColor = colours::unselected;
+  }
+  /// The two draws of a Go, the second of which is the pause until the next Break.
+  void nextPause(int entry) {
+    rig.pick(1, 1);
+    rig.pick(entry, 3);
+  }
+};
+
+TEST_F(BreakTimerThrough, GoReTimesItsPeriodButDoesNotBeginItAnew) {
+  nextPause(3);
+  go({4});
+  ASSERT_EQ(s.TmrBrk.Interval(), 5000);
+  s.time.advance(1000);
+  rig.start();
+  nextPause(2);
+  s.time.advance(1200);
+  ASSERT_FALSE(s.TmrBreak.Enabled());
+  ASSERT_TRUE(rig.generator.queue.empty());
+  EXPECT_EQ(s.TmrBrk.Interval(), 4000);
+  s.time.advance(1799);
+  EXPECT_FALSE(s.TmrBreak.Enabled());
+  s.time.advance(1);  // 4000 after the first Go, not after the second
+  EXPECT_TRUE(s.TmrBreak.Enabled());
+}
+
+TEST_F(BreakTimerThrough, APauseDrawnByGoThatIsOverAlreadyStartsTheNextBreakAtOnce) {
+  nextPause(3);
+  go({4});
+  s.time.advance(2500);
+  rig.start();
+  nextPause(1);
+  s.time.advance(1199);
+  EXPECT_EQ(s.lblBreak.Caption, "1");
+  s.time.advance(1);  // 3700, and the pause of 3000 began with the first Go
+  EXPECT_TRUE(s.TmrBreak.Enabled());
+  EXPECT_EQ(s.lblBreak.Caption, "12");
+  EXPECT_FALSE(s.TmrBrk.Enabled());
+}
+
+TEST_F(BreakTimerThrough, FiringInTheWaitItStartsABreakWhoseEndDoesNotBeginTheWaitAnew) {
+  s.lblBrk[0].Caption = "2000";
+  s.lblBrk[3].Caption = "0";
+  s.lblTmrBreak[0].Caption = "50";
+  s.lblBreakMode[16].Caption = "2000";
+  go({1, 4});
+  s.time.advance(1000);
+  rig.start();
+  s.time.advance(600);
+  ASSERT_FALSE(s.TmrBreak.Enabled());
+  ASSERT_TRUE(s.TmrAspetta.Enabled());  // from 1600 on
+  s.time.advance(400);
+  EXPECT_TRUE(s.TmrBreak.Enabled());
+  EXPECT_TRUE(s.TmrAspetta.Enabled());
+  s.time.advance(600);
+  EXPECT_FALSE(s.TmrBreak.Enabled());
+  EXPECT_TRUE(s.TmrAspetta.Enabled());
+  s.time.advance(999);
+  EXPECT_FALSE(s.TmrGoA.Enabled());
+  s.time.advance(1);  // 3600: 2000 after the end of the first Break, not of the second
+  EXPECT_TRUE(s.TmrGoA.Enabled());
+  EXPECT_FALSE(s.TmrAspetta.Enabled());
+}
+
 // ---- waiting ----------------------------------------------------------------------------------
 
 struct BreakWaiting : BreakStates {
@@ -290,6 +445,27 @@ TEST_F(BreakWaiting, RepeatSetInTheWaitStartsTheNextBreak) {
   repeat();
   s.time.advance(500);
   EXPECT_TRUE(s.TmrBreak.Enabled());
+}
+
+TEST_F(BreakWaiting, WithRepeatTheWaitThatRunsOutStartsAnewOverABreakByHand) {
+  for (int i : {3, 4}) rig.select(i);
+  s.lblBreakMode[0].Caption = "3";
+  s.lblBreakMode[24].Caption = "Seq";
+  repeat();
+  s.time.advance(1);
+  rig.start();
+  ASSERT_EQ(s.lblBreakMode[17].Caption, "3");
+  s.time.advance(498);
+  EXPECT_EQ(s.lblBreak.Caption, "18");
+  s.time.advance(1);
+  EXPECT_FALSE(s.TmrAspetta.Enabled());
+  EXPECT_EQ(s.lblBreakMode[17].Caption, "4");
+  EXPECT_EQ(s.lblBreak.Caption, "22");
+  for (int i : {3, 4}) EXPECT_EQ(s.lblBreakMode[i].BackColor, runningPattern) << i;
+  s.time.advance(1);  // the ticks go on from the start by hand
+  EXPECT_EQ(s.lblBreak.Caption, "21");
+  rig.runOut();
+  for (int i : {3, 4}) EXPECT_EQ(s.lblBreakMode[i].BackColor, colours::selected) << i;
 }
 
 TEST_F(BreakWaiting, AWaitSteppedToZeroStillRunsOut) {
