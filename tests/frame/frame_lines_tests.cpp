@@ -227,6 +227,35 @@ TEST_F(FrameTick, ThePlanesAgreeAfterATick) {
   EXPECT_EQ(planeOf(s.lblMiro2), planeOf(s.lblMiro));
 }
 
+TEST_F(FrameLines, TheCrossComesBackAfterTenTicksInAsWell) {
+  direct("In", "Off");
+  for (int tick = 1; tick <= 9; ++tick) {
+    TmrGoC_Timer(s);
+    cellTook(441, 365 - 4 * tick);
+  }
+  TmrGoC_Timer(s);
+  for (int i = 329; i <= 361; i += 4) quartetTook(i, i);
+  cellTook(441, 441);
+  restStandsStill();
+}
+
+TEST_F(FrameLines, TheTiedLineComesBackAfterTenTicksAndTheFrameHasBecomeTheCross) {
+  s.lblSyn.BackColor = colours::selected;
+  for (const char* direction : {"Out", "In"}) {
+    makeEveryCellItsOwn(s);
+    direct(direction, "Off");
+    for (int tick = 1; tick <= 10; ++tick) {
+      TmrGoC_Timer(s);
+      EXPECT_EQ(tripleOf(s.lblMiro[441]) == before[441], tick == 10) << direction << tick;
+    }
+    for (int i = 329; i <= 361; i += 4)
+      for (int line : {0, 36, 72}) quartetTook(i + line, i);
+    for (int leader : {325, 437}) quartetTook(leader, 441);
+    cellTook(441, 441);
+    restStandsStill();
+  }
+}
+
 // ---- fresh colours ----------------------------------------------------------------------------
 
 struct FreshColours : FrameLines {
@@ -280,6 +309,51 @@ TEST_F(FreshColours, OneDecisionForTheWholeTiedLine) {
   for (int leader : {329, 365, 401})
     for (int i = leader; i < leader + 4; ++i)
       EXPECT_EQ(tripleOf(s.lblMiro[i]), tripleOf(s.lblValore[5])) << i;
+}
+
+TEST_F(FreshColours, IntoTheTiedLineOutItComesAtTheCentreTheMiddlesAndTheCorners) {
+  direct("Out", "Off");
+  s.lblSyn.BackColor = colours::selected;
+  rig.pick(1, 5);
+  rig.pick(6, 7);
+  TmrGoC_Timer(s);
+  for (int i : {325, 326, 327, 328, 437, 438, 439, 440, 441})
+    EXPECT_EQ(tripleOf(s.lblMiro[i]), tripleOf(s.lblValore[5])) << i;
+  for (int leader : {361, 397, 433}) quartetTook(leader, 441);
+  EXPECT_EQ(rig.generator.draws, 2);
+}
+
+TEST_F(FreshColours, TiedAndWithTheFrameMovingTwoDecisionsAreMadeTheTiedLineFirst) {
+  direct("Out", "Out");
+  s.lblSyn.BackColor = colours::selected;
+  rig.pick(1, 5);
+  rig.pick(2, 7);
+  rig.pick(1, 5);
+  rig.pick(7, 7);
+  TmrGoC_Timer(s);
+  EXPECT_EQ(tripleOf(s.lblMiro[441]), tripleOf(s.lblValore[1]));
+  // The frame's own move takes the first colour on from the middles and brings the second there.
+  for (int leader : {397, 433})
+    for (int i = leader; i < leader + 4; ++i)
+      EXPECT_EQ(tripleOf(s.lblMiro[i]), tripleOf(s.lblValore[1])) << i;
+  for (int i : {325, 326, 327, 328, 437, 438, 439, 440})
+    EXPECT_EQ(tripleOf(s.lblMiro[i]), tripleOf(s.lblValore[6])) << i;
+  EXPECT_EQ(tripleOf(s.lblScegliColTmr), tripleOf(s.lblValore[6]));
+  EXPECT_EQ(rig.generator.draws, 4);
+}
+
+TEST_F(FreshColours, TiedAndWithTheFrameMovingTheSecondDecisionIsItsOwn) {
+  direct("In", "Out");
+  s.lblSyn.BackColor = colours::selected;
+  rig.pick(3, 5);
+  rig.pick(1, 5);
+  rig.pick(3, 7);
+  TmrGoC_Timer(s);
+  EXPECT_EQ(s.lblNumCas.Caption, "1");
+  quartetTook(329, 441);  // what the cross held went round
+  for (int i : {325, 326, 327, 328, 437, 438, 439, 440})
+    EXPECT_EQ(tripleOf(s.lblMiro[i]), tripleOf(s.lblValore[2])) << i;
+  EXPECT_EQ(rig.generator.draws, 3);
 }
 
 TEST_F(FreshColours, RarityOneBringsOneEveryTickAndDropsWhatWasHeld) {
