@@ -137,6 +137,32 @@ TEST(Window, EveryControlThatAPersonUsesHasAToolTipAndTheSameAccessibleName) {
   }
 }
 
+TEST(Window, TheTipsThatPeopleKnowTheInstrumentByAreTheseToTheLetter) {
+  const std::pair<const char*, const char*> tips[] = {
+      {"lblBreakMode(16)", "Tempo di Ripresa Timer"},
+      {"lblBreakMode(18)", "Colori di transizione"},
+      {"lblBreakMode(19)", "Crea Disegno"},
+      {"lblBreakMode(21)", "Ripeti"},
+      {"lblBreakMode(26)", "Modifica Colori"},
+      {"lblTmrBreak(0)", "Velocità di transizione"},
+      {"lblCambioCol(0)", "colore Disegno attivo"},
+      {"lblCambioCol(1)", "Cambia Tutti i colori"},
+      {"lblCambioCol(2)", "Scambia una coppia di colori"},
+      {"lblCambioCol(3)", "Sposta tutti i colori"},
+      {"lblCambioCol(4)", "colore Fondo attivo"},
+      {"lblCambioCol(6)", "Includi primo Colore"},
+      {"lblCambioCol(9)", "Random All"},
+      {"lblCambioCol(10)", "Colore Random"},
+      {"lblNSc", "Numero Colori"},
+  };
+  WindowRig rig;
+  for (const auto& [control, tip] : tips)
+    EXPECT_EQ(rig.widget(control).toolTip(), QString::fromUtf8(tip)) << control;
+  // These two are clipped away; their tips are kept with the others.
+  EXPECT_EQ(toolTipOf(rig.s(), {&rig.s().lblTmrRndCol, 3}), "Aggiunta secondi random");
+  EXPECT_EQ(toolTipOf(rig.s(), {&rig.s().lblCambioCol, 11}), "Ripetizioni");
+}
+
 TEST(Window, AssistiveProgramsFindAButtonAndPressIt) {
   WindowRig rig;
   QAccessibleInterface* button = QAccessible::queryAccessibleInterface(&rig.widget("lblSposta(4)"));

@@ -246,6 +246,27 @@ TEST_F(Bank, SavePressedAgainClosesTheBox) {
   EXPECT_FALSE(s.FraMemoria.Visible);
 }
 
+TEST_F(Bank, SaveOfAThirdColourGoesOutAndClosesTheBox) {
+  save();
+  button(2);
+  s.lblComandiVari[1].BackColor = colours::pressed;
+  s.lblCanc.BackColor = colours::selected;
+  save();
+  EXPECT_EQ(s.lblComandiVari[1].BackColor, colours::unselected);
+  EXPECT_FALSE(s.FraMemoria.Visible);
+  EXPECT_EQ(s.lblCanc.BackColor, colours::selected) << "only Save coming on puts it out";
+}
+
+TEST_F(Bank, CancOfAThirdColourComesOnAndClosesTheBox) {
+  save();
+  button(2);
+  s.lblCanc.BackColor = colours::pressed;
+  canc();
+  EXPECT_EQ(s.lblCanc.BackColor, colours::selected);
+  EXPECT_EQ(s.lblComandiVari[1].BackColor, colours::unselected);
+  EXPECT_FALSE(s.FraMemoria.Visible);
+}
+
 TEST_F(Bank, LoadIsNoButton) {
   const Snapshot before = snapshotOf(s);
   pressAndRelease(s.lblComandiVari, 0);
@@ -360,6 +381,14 @@ TEST_F(Bank, AHeldBankButtonStepsAtOnceAndThenEvery150Ms) {
   release(s.lblMemo, 1);
   EXPECT_EQ(s.lblMemo[0].Caption, "0");
   EXPECT_EQ(buttons(), "...#......");  // each repeat recolours too
+}
+
+TEST_F(Bank, TheRepeatWithNoButtonHeldStepsDown) {
+  tick(s.TmrScorriMemo);
+  EXPECT_EQ(s.lblMemo[0].Caption, "9");
+  s.lblMemo[1].BackColor = s.lblMemo[2].BackColor = colours::selected;
+  tick(s.TmrScorriMemo);
+  EXPECT_EQ(s.lblMemo[0].Caption, "8");
 }
 
 // Ok marks the button that was clicked, whatever bank has come under it since.

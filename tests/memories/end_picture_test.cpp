@@ -52,6 +52,26 @@ TEST_F(EndPicture, AnyOtherScreenStretchesItAndShrinksItsLetters) {
   EXPECT_EQ(rig.s.frmMiroVelTaZQ.geometry().Width, Twips{19200});
 }
 
+TEST_F(EndPicture, StretchedTheButtonStillLiesOverThePictureAndTheWordsStandWhereTheyDid) {
+  const StartableRig model;
+  StartedRig rig({19200, 14400});
+  click(rig.s.lblComandiVari, 2);
+  const auto lies = [](const Control& control) {
+    const Geometry& at = control.geometry();
+    return Places{at.Left, at.Top, at.Width, at.Height};
+  };
+  const auto stretched = [&lies](const Control& drawn) {
+    const Places d = lies(drawn);
+    return Places{d.left * 1.25, d.top * 1.25, d.width * 1.25, d.height * 1.25};
+  };
+  EXPECT_EQ(lies(rig.s.ImgZQ), stretched(model.s.ImgZQ));
+  EXPECT_EQ(lies(rig.s.lblZQ), lies(rig.s.ImgZQ));
+  EXPECT_EQ(lies(rig.s.lblScritteVarieC), stretched(model.s.lblScritteVarieC));
+  EXPECT_EQ(lies(rig.s.lblAvvertimento2), stretched(model.s.lblAvvertimento2));
+  EXPECT_EQ(rig.s.lblScritteVarieC.geometry().FontSize.value,
+            model.s.lblScritteVarieC.geometry().FontSize.value * 0.9);
+}
+
 TEST_F(EndPicture, EveryControlOfItHasItsPlaceOnTheDrawing) {
   const StartableRig rig;
   const Store& s = rig.s;

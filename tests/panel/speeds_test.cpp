@@ -280,6 +280,30 @@ TEST_F(Speeds, ASpeedReleaseWithFamily13To24IsRememberedNowhere) {
   }
 }
 
+TEST_F(Speeds, AFamilyOfNoughtIsOverwrittenByItsOwnSpeed) {
+  s.lblIntervalA[0].Caption = "0";
+  press(s.lblPiùTmr, 1);
+  release(s.lblPiùTmr, 1);
+  EXPECT_EQ(s.lblIntervalA[0].Caption, "500") << "element 0 is an element like any other";
+  for (int i = 1; i <= 12; ++i) EXPECT_EQ(s.lblIntervalA[i].Caption, std::to_string(100 * i));
+  // From then on it names no family.
+  press(s.lblPiùTmr, 1);
+  EXPECT_TRUE(endsTheRun([&] { release(s.lblPiùTmr, 1); }, {"lblIntervalA(500)", "0 to 12"}));
+}
+
+TEST_F(Speeds, AFamilyThatNoButtonChoosesEndsTheRunAtTheRelease) {
+  for (const char* family : {"25", "-1"}) {
+    s.lblIntervalA[0].Caption = family;
+    press(s.lblMenoTmr, 1);
+    EXPECT_TRUE(endsTheRun([&] { release(s.lblMenoTmr, 1); },
+                           {"lblIntervalA(" + std::string(family) + ")", "0 to 12"}));
+  }
+  s.lblSyncro.BackColor = colours::selected;  // all twelve at once ask for no family
+  press(s.lblMenoTmr, 1);
+  release(s.lblMenoTmr, 1);
+  EXPECT_EQ(s.lblIntervalA[12].Caption, "500");
+}
+
 TEST_F(Speeds, TimerBRemembersItsIntervalForTheTransformSelected) {
   s.lblTransf[0].Caption = "5";
   press(s.lblMenoTmr, 2);

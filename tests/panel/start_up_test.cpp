@@ -148,6 +148,19 @@ TEST(StartUp, ShowsTheContourWithItsWidthOrHidesItAtNought) {
   EXPECT_FALSE(none.s.ShpContour.Visible);
 }
 
+TEST(StartUp, AContourThatIsNoNumberEndsTheRunBeforeGoAndIsNamed) {
+  for (const char* width : {"wide", ""}) {
+    StartableRig rig;
+    rig.s.lblComCol[2].Caption = width;
+    SalvaDefault(rig.s);
+    EXPECT_TRUE(endsTheRun([&] { rig.instrument.start(); },
+                           {"lblComCol(2).Caption", '"' + std::string(width) + '"'}));
+    EXPECT_EQ(rig.s.cmdGoTimer.BackColor, colours::idle);
+    EXPECT_EQ(rig.s.time.nextDue(), Time::never);
+    EXPECT_EQ(rig.s.lblSelez.Caption, "Def") << "what comes before it was done";
+  }
+}
+
 TEST(StartUp, ReadsUnderTheRootThatWasFound) {
   StartableRig source;
   Rig rig;

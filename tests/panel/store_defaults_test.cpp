@@ -1,6 +1,8 @@
 #include <gtest/gtest.h>
 
+#include <optional>
 #include <string>
+#include <vector>
 
 #include "support/rig.h"
 
@@ -149,6 +151,109 @@ TEST_F(StoreDefaults, TheTableMarksItsProgrammeAndTheCursorInTheEditedColumn) {
   EXPECT_EQ(s.lblSeq[3].Caption, "A");
   EXPECT_EQ(s.lblSeq[4].Caption, "4");
   EXPECT_EQ(s.lblSeq[5].Caption, "4");
+}
+
+/// How an element comes up; without a colour any will do.
+struct Default {
+  const Frame* element;
+  const char* caption;
+  std::optional<Colour> back = {};
+};
+
+void comeUpAs(const Store& s, const std::vector<Default>& defaults) {
+  for (const Default& d : defaults) {
+    EXPECT_EQ(d.element->Caption, d.caption) << s.controls.nameOf(d.element);
+    if (d.back) {
+      EXPECT_EQ(d.element->BackColor, *d.back) << s.controls.nameOf(d.element);
+    }
+  }
+}
+
+constexpr Colour red{0xC0C0FF}, white{0xFFFFFF}, face{0x8000000F};
+
+TEST_F(StoreDefaults, TheFramesSectionComesUpWithBothLinesOutAndFreshColoursIn) {
+  comeUpAs(s, {
+                  {&s.lblCorniceOpzio[1], "Out", red},
+                  {&s.lblCorniceOpzio[2], "Out", red},
+                  {&s.lblRandomC, "Random", red},
+                  {&s.lblRndC[0], "2"},
+                  {&s.lblRndC[1], "<"},
+                  {&s.lblRndC[2], ">"},
+                  {&s.lblIndFRnd, ""},
+                  {&s.lblColCornice, "7", white},
+                  {&s.lblNumCas, "1"},
+                  {&s.lblScegliColTmr, "0"},
+                  {&s.lblSyn, "Sy", white},
+                  {&s.lblVelo[3], "80"},
+              });
+  for (const Frame* hidden :
+       std::initializer_list<const Frame*>{&s.lblNumCas, &s.lblScegliColTmr, &s.lblSyn})
+    EXPECT_FALSE(hidden->Visible) << s.controls.nameOf(hidden);
+  EXPECT_EQ(s.TmrGoC.Interval(), 1000);
+  EXPECT_EQ(s.TmrFrqRnd.Interval(), 100);
+  EXPECT_FALSE(s.TmrGoC.Enabled() || s.TmrFrqRnd.Enabled());
+}
+
+TEST_F(StoreDefaults, TheBreaksSectionComesUpWithElevenPatternsAtRandomAlternating) {
+  comeUpAs(s, {
+                  {&s.lblBreakMode[0], "11", white},
+                  {&s.lblBreakMode[1], "1", red},
+                  {&s.lblBreakMode[2], "2", red},
+                  {&s.lblBreakMode[3], "3", red},
+                  {&s.lblBreakMode[4], "4", red},
+                  {&s.lblBreakMode[5], "5", red},
+                  {&s.lblBreakMode[6], "6", red},
+                  {&s.lblBreakMode[7], "7", red},
+                  {&s.lblBreakMode[8], "8", red},
+                  {&s.lblBreakMode[9], "9", red},
+                  {&s.lblBreakMode[10], "10", red},
+                  {&s.lblBreakMode[11], "11", red},
+                  {&s.lblBreakMode[12], "12", white},
+                  {&s.lblBreakMode[13], "All", white},
+                  {&s.lblBreakMode[14], "Alt", white},
+                  {&s.lblBreakMode[15], "I", white},
+                  {&s.lblBreakMode[16], "0", white},
+                  {&s.lblBreakMode[17], "1", white},
+                  {&s.lblBreakMode[18], "R", white},
+                  {&s.lblBreakMode[19], "D", red},
+                  {&s.lblBreakMode[20], "Immediato", white},
+                  {&s.lblBreakMode[21], "R", white},
+                  {&s.lblBreakMode[22], "-", face},
+                  {&s.lblBreakMode[23], "+", face},
+                  {&s.lblBreakMode[24], "Rnd", white},
+                  {&s.lblBreakMode[25], "1", Colour{0xFFFFC0}},
+                  {&s.lblBreakMode[26], "M", red},
+                  {&s.lblSpiaBreak, "", white},
+                  {&s.lblBreak, "22", red},
+                  {&s.lblTrans, "3"},
+                  {&s.lblColSCelto, "4"},
+                  {&s.lblBrk[0], "3000"},
+                  {&s.lblBrk[1], "-"},
+                  {&s.lblBrk[2], "+"},
+                  {&s.lblBrk[3], "2"},
+                  {&s.lblBrk[4], "1"},
+                  {&s.lblBrk[5], ""},
+                  {&s.lblTmrBreak[0], "100"},
+                  {&s.lblTmrBreak[1], "-"},
+                  {&s.lblTmrBreak[2], "+"},
+                  {&s.Command7, "Break"},
+                  {&s.Command8, "stop Tmr"},
+              });
+  for (int i = 0; i <= 26; ++i)
+    EXPECT_EQ(s.lblBreakMode[i].ForeColor, Colour{i == 20 ? 0x000080U : 0U}) << i;
+  for (int i = 1; i <= 13; ++i) EXPECT_EQ(s.lblIntBrk[i].Caption, "0") << i;
+  const struct {
+    const Timer& timer;
+    int interval;
+  } timers[] = {{s.TmrBrk, 3000},
+                {s.TmrBreak, 3000},
+                {s.TmrAspetta, 0},
+                {s.TmrScorriBrk, 75},
+                {s.TmrVeloBreak, 75}};
+  for (const auto& [timer, interval] : timers) {
+    EXPECT_EQ(timer.Interval(), interval);
+    EXPECT_FALSE(timer.Enabled());
+  }
 }
 
 TEST_F(StoreDefaults, HoldersWithoutAnEngineKeepWhatAMemoryKnowsOfThem) {

@@ -58,9 +58,13 @@ TEST_F(Rewind, TheRowLabelsKeepTheirMarks) {
 }
 
 TEST_F(Rewind, WithNoColumnEditedTheCursorGoesBackAndNoMarkGoes) {
-  rewind("", "5");
-  EXPECT_EQ(s.lblSeq[4].Caption, "4");
-  EXPECT_EQ(unmarked(4), "");
+  for (const char* edited : {"", "D", "a", "AB"}) {
+    rewind(edited, "5");
+    EXPECT_EQ(s.lblSeq[4].Caption, "4") << edited;
+    rewind(edited, "1");
+    EXPECT_EQ(s.lblSeq[4].Caption, "6") << edited;
+    for (int row = 1; row <= 24; ++row) EXPECT_EQ(unmarked(row), "") << edited << row;
+  }
 }
 
 TEST_F(Rewind, ARangeBeyondTheTableEndsTheRunAndNamesTheRow) {
