@@ -1,4 +1,4 @@
-// The instrument after a start, driven by bytes: what happens, to which control, to which element.
+// The instrument after a start, driven by bytes: to which control, to which element, and what.
 #include "fuzz/stage.h"
 
 namespace {
@@ -28,59 +28,82 @@ class Bytes {
 
 /// No file is damaged here, so little can end the run.
 constexpr std::string_view ends[] = {
-    "lblSelez.Caption is \"",       // the naming box's Ok where no number was clicked before
-    "lblValClick.Caption is \"\"",  // the digits' timer before any of their buttons was pressed
-    ".Caption is \"- - -\"",        // a cleared step of column B
-    "overflow: ",                   // an interval beyond 16 bits
+    "lblSelez.Caption is \"",              // the naming box's Ok after a preset was loaded under it
+    ".Caption is \"- - -\"",               // a cleared step of column B
+    "overflow: ",                          // an interval beyond 16 bits
+    ".txt: cannot be read: no such file",  // a mark that moved as the bank changed under the box
 };
 
-constexpr int mostEvents = 300;
+constexpr int mostEvents = 400;
 constexpr unsigned longestRun = 20'000;  // of virtual time, in milliseconds
+
+/// The elements of a control that take an event. A byte drawn for any other would be lost, and most
+/// elements take none.
+struct Taker {
+  const Control* control;
+  std::vector<int> elements;
+};
+std::vector<Taker> takersOf(const Store& s) {
+  std::vector<Taker> takers;
+  for (const Control* control : s.controls.all()) {
+    Taker taker{control, {}};
+    for (int i = control->first(); i <= control->last(); ++i)
+      for (std::size_t event = 0; event < eventCount; ++event)
+        if (control->handles(static_cast<Event>(event), i)) {
+          taker.elements.push_back(i);
+          break;
+        }
+    if (!taker.elements.empty()) takers.push_back(std::move(taker));
+  }
+  return takers;
+}
 
 class Hand {
  public:
-  Hand(Store& store, Bytes& input) : s(store), bytes(input) {}
+  Hand(Store& store, Bytes& input) : s(store), bytes(input), takers(takersOf(store)) {}
 
   void next() {
-    const unsigned kind = bytes.byte() % 8;
-    switch (kind) {
-      case 0:
-        return advance(bytes.byte() * 4);
-      case 1:
-        // What a person does most: press, hold and let go on the spot.
-        return press();
-      case 2:
-        return s.form.raise(Event::KeyDown, 0, static_cast<int>(bytes.word()));
-      case 3:
-        s.TxtNomeMemoria.Text = std::string(bytes.byte() % 40, static_cast<char>(bytes.byte()));
-        return s.TxtNomeMemoria.raise(Event::KeyPress, 0, 13);
-      default:
-        return raise(static_cast<Event>(bytes.byte() % eventCount));
-    }
+    const std::size_t drawn = bytes.byte();
+    if (drawn >= 2 * takers.size()) return advance(bytes.byte() * 4);
+    const auto& [taker, elements] = takers[drawn % takers.size()];
+    const Control& control = *taker;
+    const int index = elements[(elements.size() > 256 ? bytes.word()
+                                : elements.size() > 1 ? bytes.byte()
+                                                      : 0) %
+                               elements.size()];
+    // What would only end the run early is left out: a timer that is off, the naming box while it
+    // is closed, and the end picture before it shows.
+    if (control.kind() == Kind::Timer) return tick(control);
+    if (control.kind() == Kind::Window) return key(control);
+    if (control.kind() == Kind::TextBox) return type();
+    if (&control == &s.lblSalvaComb && !s.FraMemoria.Visible) return;
+    if (&control == &s.lblZQ && !s.frmMiroVelTaZQ.Visible) return;
+    const unsigned how = bytes.byte();
+    // What a person does most: press, hold or not, and let go on the spot.
+    if (how >= eventCount) return press(control, index, how < 128 ? 0 : (how - 128) * 8);
+    control.raise(static_cast<Event>(how), index);
   }
 
  private:
-  struct Target {
-    const Control& control;
-    int index;
-  };
-  Target target() {
-    const auto& all = s.controls.all();
-    const Control& control = *all[bytes.byte() % all.size()];
-    const auto count = static_cast<unsigned>(control.last() - control.first() + 1);
-    const unsigned drawn = count > 256 ? bytes.word() : bytes.byte();
-    return {control, control.first() + static_cast<int>(drawn % count)};
+  void press(const Control& control, int index, unsigned held) {
+    control.raise(Event::MouseMove, index);
+    control.raise(Event::MouseDown, index);
+    advance(held);
+    control.raise(Event::MouseUp, index);
+    control.raise(Event::Click, index);
   }
-  void raise(Event event) {
-    const Target at = target();
-    at.control.raise(event, at.index);
+  void tick(const Control& timer) {
+    if (static_cast<const Timer*>(timer.element(0))->Enabled()) timer.raise(Event::Tick);
   }
-  void press() {
-    const Target at = target();
-    at.control.raise(Event::MouseDown, at.index);
-    advance(bytes.byte());
-    at.control.raise(Event::MouseUp, at.index);
-    at.control.raise(Event::Click, at.index);
+  void key(const Control& window) {
+    const unsigned code = bytes.byte();
+    if (code == 0) return window.raise(Event::Click);
+    window.raise(Event::KeyDown, 0, static_cast<int>(code));
+  }
+  void type() {
+    if (!s.FraMemoria.Visible) return;
+    s.TxtNomeMemoria.Text = std::string(bytes.byte() % 40, static_cast<char>(bytes.byte()));
+    s.TxtNomeMemoria.raise(Event::KeyPress, 0, 13);
   }
   void advance(unsigned ms) {
     run += ms;
@@ -89,6 +112,7 @@ class Hand {
 
   Store& s;
   Bytes& bytes;
+  std::vector<Taker> takers;
   unsigned run = 0;
 };
 
