@@ -21,8 +21,7 @@ constexpr int shortestPeriod = 5;
 
 Timer& engineTimer(PanelControls& s, std::int64_t t) {
   assert(1 <= t && t <= 3);
-  Timer* const timers[] = {&s.TmrGoA, &s.TmrGoB, &s.TmrGoC};
-  return *timers[t - 1];
+  return t == 1 ? s.TmrGoA : t == 2 ? s.TmrGoB : s.TmrGoC;
 }
 
 /// Steps the caption of the speed in use; true when it moved.

@@ -42,7 +42,9 @@ come_up() {
     if [ -s "$work/said" ]; then
       # A key to the box, once it is there.
       box=$(xdotool search --onlyvisible --name '^Caleidoscopio$' 2>/dev/null) || continue
-      xdotool key --window "${box%%$'\n'*}" Return 2>/dev/null || true
+      while read -r window; do
+        xdotool key --window "$window" Return 2>/dev/null || true
+      done <<<"$box"
     elif [ $look -ge 8 ]; then
       kill -KILL "$virtual_display_program"
       wait "$virtual_display_program" 2>/dev/null || true

@@ -33,8 +33,11 @@ refused() {
   for ((wait = 0; wait < 100; ++wait)); do
     # The message is there before the box is closed: whoever started it from a terminal sees it.
     if [ -s "$work/said" ] && box=$(xdotool search --onlyvisible --name '^Caleidoscopio$' 2>/dev/null); then
-      xdotool key --window "${box%%$'\n'*}" Return 2>/dev/null || true
-      xdotool key Return
+      # Without a window manager it is not sure which window has the keyboard: to the box and to
+      # the window behind it, which no key moves any more.
+      while read -r window; do
+        xdotool key --window "$window" Return 2>/dev/null || true
+      done <<<"$box"
     fi
     kill -0 "$virtual_display_program" 2>/dev/null || break
     sleep 0.1
