@@ -88,7 +88,6 @@ void showFault(const QString& message, QWidget* parent) {
   // What was found in a file may look like markup.
   box.setTextFormat(Qt::PlainText);
   box.setObjectName(QStringLiteral("fault"));
-  box.setTextFormat(Qt::PlainText);  // what was found in a file is shown as it is
   box.exec();
 }
 

@@ -103,9 +103,6 @@ TEST_P(AnyUse, OfThePanelsShowsItsCaptionsWhole) {
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(Screens, AnyUse,
-                         testing::Values(std::pair{1024, 768}, std::pair{1366, 768},
-                                         std::pair{1920, 1080}, std::pair{2560, 1440},
-                                         std::pair{3840, 2160}));
+INSTANTIATE_TEST_SUITE_P(Screens, AnyUse, screens);
 
 }  // namespace caleidoscopio::test

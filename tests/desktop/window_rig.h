@@ -1,5 +1,7 @@
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <QTest>
 #include <QWidget>
 
@@ -8,6 +10,12 @@
 #include "support/rig.h"
 
 namespace caleidoscopio::test {
+
+/// The screens on which the whole panel must be right, in pixels; desktop.at_scale_factor_2 takes
+/// them all once more.
+inline const auto screens =
+    testing::Values(std::pair{1024, 768}, std::pair{1366, 768}, std::pair{1920, 1080},
+                    std::pair{2560, 1440}, std::pair{3840, 2160});
 
 /// The instrument in a real window of `width` by `height` pixels, started from a default memory
 /// that the test can prepare, with its panels staying where they are.

@@ -118,10 +118,7 @@ TEST_P(Sizes, TheFieldsCellsMeetWithoutAGap) {
     ASSERT_EQ(picture.pixelColor(from.x() + 3, y), QColor(0, 255, 0)) << y;
 }
 
-INSTANTIATE_TEST_SUITE_P(Screens, Sizes,
-                         testing::Values(std::pair{1024, 768}, std::pair{1366, 768},
-                                         std::pair{1920, 1080}, std::pair{2560, 1440},
-                                         std::pair{3840, 2160}));
+INSTANTIATE_TEST_SUITE_P(Screens, Sizes, screens);
 
 TEST(Window, EveryControlThatAPersonUsesHasAToolTipAndTheSameAccessibleName) {
   WindowRig rig;
