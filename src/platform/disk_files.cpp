@@ -42,7 +42,15 @@ std::string DiskFiles::root() {
 }
 
 std::optional<std::string> DiskFiles::read(const std::string& path, std::string& why) {
-  return readFile(base_ / path, why);
+  const fs::path file = base_ / path;
+  std::error_code none;
+  const fs::file_type type = fs::status(file, none).type();
+  // A pipe would be waited for, and the window with it. The others the system refuses in its words.
+  if (type == fs::file_type::fifo || type == fs::file_type::character) {
+    why = "Not a regular file";
+    return std::nullopt;
+  }
+  return readFile(file, why);
 }
 
 bool DiskFiles::write(const std::string& path, const std::string& text, std::string& why) {
@@ -69,8 +77,12 @@ std::optional<std::string> readFile(const fs::path& path, std::string& why) {
   if (!file) return fault();
   std::string text;
   std::array<char, 65536> block;
-  while (const std::size_t got = std::fread(block.data(), 1, block.size(), file.get()))
+  while (const std::size_t got = std::fread(block.data(), 1, block.size(), file.get())) {
     text.append(block.data(), got);
+    if (text.size() <= longestFile) continue;
+    errno = EFBIG;
+    return fault();
+  }
   if (std::ferror(file.get())) return fault();
   return text;
 }

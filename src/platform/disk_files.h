@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <filesystem>
 #include <string>
 #include <vector>
@@ -30,6 +31,9 @@ class DiskFiles : public TextFiles {
 
 /// True if the default memory lies below `root`, which has its closing separator.
 bool hasDefaultMemory(const std::string& root);
+
+/// What is longer is no memory, no list of names and no script, and may have no end. In bytes.
+constexpr std::size_t longestFile = std::size_t{64} << 20;
 
 /// A whole file's bytes, or nothing with the reason in `why`.
 std::optional<std::string> readFile(const std::filesystem::path& path, std::string& why);

@@ -76,6 +76,28 @@ TEST_F(DiskFilesTest, ADeviceInTheFilesPlaceStays) {
   EXPECT_TRUE(fs::is_character_file("/dev/null"));
 }
 
+TEST_F(DiskFilesTest, APipeAndADeviceAreNotRead) {
+  ASSERT_EQ(::mkfifo(at("pipe").c_str(), 0600), 0);
+  fs::create_symlink("/dev/zero", folder / "zeros");
+  for (const char* name : {"pipe", "zeros"}) {
+    std::string why;
+    EXPECT_EQ(DiskFiles::under(folder.string()).read(name, why), std::nullopt) << name;
+    EXPECT_EQ(why, "Not a regular file") << name;
+  }
+}
+
+TEST_F(DiskFilesTest, AFileLongerThanAnyOfOursIsNotRead) {
+  put("f", "");
+  fs::resize_file(folder / "f", longestFile);
+  std::string why;
+  const auto text = DiskFiles::under(folder.string()).read("f", why);
+  ASSERT_TRUE(text) << why;
+  EXPECT_EQ(text->size(), longestFile);
+  fs::resize_file(folder / "f", longestFile + 1);
+  EXPECT_EQ(DiskFiles::under(folder.string()).read("f", why), std::nullopt);
+  EXPECT_EQ(why, "File too large");
+}
+
 TEST_F(DiskFilesTest, AFileThatIsALinkStaysOne) {
   put("far/real.txt", "old");
   fs::create_symlink("far/real.txt", folder / "f.txt");
