@@ -10,6 +10,8 @@ share=$3
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 # shellcheck source=tools/virtual_display.sh
 . "$here/../../tools/virtual_display.sh"
+# shellcheck source=tests/support/window.sh
+. "$here/../support/window.sh"
 
 start_virtual_display 640x480
 work=$virtual_display_folder
@@ -27,7 +29,7 @@ fail() {
 
 # Starts the program; leaves "up" in $went, or "ended" with its status in $status.
 come_up() {
-  local look box
+  local look
   status=0 went=up
   "$program" >"$work/out" 2>"$work/said" &
   virtual_display_program=$!
@@ -40,11 +42,7 @@ come_up() {
       return
     fi
     if [ -s "$work/said" ]; then
-      # A key to the box, once it is there.
-      box=$(xdotool search --onlyvisible --name '^Caleidoscopio$' 2>/dev/null) || continue
-      while read -r window; do
-        xdotool key --window "$window" Return 2>/dev/null || true
-      done <<<"$box"
+      close_box || true
     elif [ $look -ge 8 ]; then
       kill -KILL "$virtual_display_program"
       wait "$virtual_display_program" 2>/dev/null || true

@@ -7,6 +7,8 @@ share=$2
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 # shellcheck source=tools/virtual_display.sh
 . "$here/../../tools/virtual_display.sh"
+# shellcheck source=tests/support/window.sh
+. "$here/../support/window.sh"
 
 start_virtual_display 640x480
 work=$virtual_display_folder
@@ -21,7 +23,7 @@ fail() {
 
 # refused FILE LINE DAMAGE WORDS: starts with that line damaged, closes the box, and finds the words.
 refused() {
-  local file=$dati/$1 number=$2 damage=$3 words=$4 status=0 box wait
+  local file=$dati/$1 number=$2 damage=$3 words=$4 status=0 wait
   rm -rf "$XDG_DATA_HOME"
   mkdir -p "${dati%/Dati}"
   cp -r "$share"/Miro-Vel-Ta/* "${dati%/Dati}/"
@@ -32,13 +34,7 @@ refused() {
   virtual_display_program=$!
   for ((wait = 0; wait < 100; ++wait)); do
     # The message is there before the box is closed: whoever started it from a terminal sees it.
-    if [ -s "$work/said" ] && box=$(xdotool search --onlyvisible --name '^Caleidoscopio$' 2>/dev/null); then
-      # Without a window manager it is not sure which window has the keyboard: to the box and to
-      # the window behind it, which no key moves any more.
-      while read -r window; do
-        xdotool key --window "$window" Return 2>/dev/null || true
-      done <<<"$box"
-    fi
+    [ ! -s "$work/said" ] || close_box || true
     kill -0 "$virtual_display_program" 2>/dev/null || break
     sleep 0.1
   done

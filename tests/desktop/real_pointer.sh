@@ -1,48 +1,26 @@
-#!/bin/bash
+#!/usr/bin/env bash
 # real_pointer.sh PROGRAM CONSOLE SHARE: a person's session on a real X server. The program starts
 # in a home that never saw it; a key brings the panels; the pointer chooses a shift, turns it round,
 # holds a speed button, paints a cell, and leaves by Esc. What was saved tells whether all arrived.
 set -euo pipefail
 program=$1 console=$2 share=$3
-work=$(mktemp -d)
+here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
+# shellcheck source=tools/virtual_display.sh
+. "$here/../../tools/virtual_display.sh"
+# shellcheck source=tests/support/window.sh
+. "$here/../support/window.sh"
+
+start_virtual_display 1024x768
+work=$virtual_display_folder
 export XDG_DATA_HOME=$work/data XDG_RUNTIME_DIR=$work
 root=$XDG_DATA_HOME/caleidoscopio
-trap 'kill $(jobs -p) 2>/dev/null || true; wait; rm -rf "$work"' EXIT
-
-Xvfb -displayfd 5 -screen 0 1024x768x24 5>"$work/display" >/dev/null 2>&1 &
-until number=$(cat "$work/display") && [ -n "$number" ]; do sleep 0.1; done
-export DISPLAY=:$number QT_QPA_PLATFORM=xcb
 "$program" &
-pid=$!
+virtual_display_program=$!
 for _ in $(seq 100); do
-  xdotool search --name Caleidoscopio >/dev/null 2>&1 && break
+  ! windows >/dev/null || break
   sleep 0.1
 done
 sleep 1
-
-# The places of the controls, as the console has them: name, then middle in pixels.
-cp -r "$share/Miro-Vel-Ta" "$work"
-middle() { # CONTROL [PARENT]
-  local ref
-  {
-    echo start
-    for ref in "$@"; do
-      for property in Left Top Width Height; do echo "get $ref.$property"; done
-    done
-  } | "$console" --root "$work" | awk -v n=$# '
-    { v[NR] = $1 }
-    END {
-      x = v[1] + v[3] / 2; y = v[2] + v[4] / 2
-      if (n == 2) { x += v[5]; y += v[6] }
-      printf "%d %d\n", x / 15, y / 15
-    }'
-}
-point() { # shellcheck disable=SC2046
-  xdotool mousemove $(middle "$@")
-}
-press() { point "$@" && xdotool mousedown 1; }
-release() { xdotool mouseup 1 && sleep 0.2; }
-click() { press "$@" && sleep 0.05 && release; }
 
 xdotool key a # stops the run that start-up began, and shows the panels
 sleep 0.3
@@ -57,10 +35,11 @@ click 'lblValore(4)' 'FraPannello(1)'
 click 'lblMiro(2)'
 click 'lblComandiVari(2)' 'FraPannello(1)'
 sleep 1
-kill -0 $pid
+kill -0 $virtual_display_program
 xdotool mousemove 512 384 click 1 # the end picture
 status=0
-wait $pid || status=$?
+wait $virtual_display_program || status=$?
+virtual_display_program=
 
 saved() { printf 'load Default\nget %s\n' "$1" | "$console" --root "$root"; }
 faults=0

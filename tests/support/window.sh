@@ -1,0 +1,40 @@
+# Sourced by the tests that use the program as a person does, on a display of its own.
+# shellcheck shell=bash disable=SC2154
+
+# middle CONTROL [PARENT]: the middle of a control on a screen of 1024x768, as $console has it with
+# the memories in $share.
+middle() {
+  local ref
+  {
+    echo start
+    for ref in "$@"; do
+      for property in Left Top Width Height; do echo "get $ref.$property"; done
+    done
+  } | "$console" --root "$share" | awk -v n=$# '
+    { v[NR] = $1 }
+    END {
+      x = v[1] + v[3] / 2; y = v[2] + v[4] / 2
+      if (n == 2) { x += v[5]; y += v[6] }
+      printf "%d %d\n", x / 15, y / 15
+    }'
+}
+point() { # shellcheck disable=SC2046
+  xdotool mousemove $(middle "$@")
+}
+press() { point "$@" && xdotool mousedown 1; }
+release() { xdotool mouseup 1 && sleep 0.2; }
+click() { press "$@" && sleep 0.05 && release; }
+
+# The window of the program, or the box that tells a fault.
+windows() { xdotool search --onlyvisible --name '^Caleidoscopio$' 2>/dev/null; }
+
+# close_box: a key to the box, once it is there; false as long as it is not. Without a window manager
+# it is not sure which window has the keyboard: to the box and to the window behind it, which no key
+# moves any more.
+close_box() {
+  local window found
+  found=$(windows) || return
+  while read -r window; do
+    xdotool key --window "$window" Return 2>/dev/null || true
+  done <<<"$found"
+}
