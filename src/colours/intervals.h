@@ -5,7 +5,8 @@
 namespace caleidoscopio {
 
 /// Draws the pause of Timer F: the base interval plus a whole number of seconds, all equally
-/// likely. Counts without a 16-bit limit; an interval beyond 32 bits ends the run.
+/// likely, and at most the longest that a timer takes, 2147483647 ms. Counts without a 16-bit
+/// limit; captions that are no numbers of 32 bits and more than 12 seconds end the run.
 void ScegliIntervalloColore(ColourControls& s);
 
 }  // namespace caleidoscopio

@@ -88,10 +88,14 @@ TEST_F(ColourIntervals, MoreEntriesThanTheTableHasEndTheRunNamingIt) {
   EXPECT_TRUE(endsTheRun([&] { ScegliIntervalloColore(s); }, {"lblIntCol(14)", "1 to 13"}));
 }
 
-TEST_F(ColourIntervals, AnIntervalBeyond32BitsEndsTheRun) {
-  base("2147483647", "1");
-  pick(2, 2);
-  EXPECT_TRUE(endsTheRun([&] { ScegliIntervalloColore(s); }, {"2147484647"}));
+TEST_F(ColourIntervals, AnIntervalBeyondTheTimersLongestIsTheLongest) {
+  base("2147482000", "2");
+  for (const auto& [k, interval] : {std::pair{1, 2147482000}, {2, 2147483000}, {3, 2147483647}}) {
+    pick(k, 3);
+    ScegliIntervalloColore(s);
+    EXPECT_EQ(s.TmrGoD.Interval(), interval);
+    EXPECT_EQ(s.lblTmrRndCol[6].Caption, std::to_string(interval));
+  }
 }
 
 }  // namespace
