@@ -1,6 +1,7 @@
 #include "mosaic/painting.h"
 
 #include <algorithm>
+#include <optional>
 #include <string_view>
 
 #include "mosaic/cells.h"
@@ -105,9 +106,11 @@ void lblSfondo_Click(MosaicControls& s, int k) {
   for (int j = 0; j <= 6; ++j) s.lblSfondo[j].BorderStyle = 0;
   s.lblSfondo[k].BorderStyle = 1;
 
-  const Colour old = s.lblSfondo[number(s, s.lblSfondoMem)].BackColor;
   for (const Scope& scope : scopes) {
     if (s.lblSelSfondo[3].Caption != scope.name) continue;
+    // A fill asks for no colour, so it does not mind what the last background was.
+    std::optional<Colour> old;
+    if (!fill) old = s.lblSfondo[number(s, s.lblSfondoMem)].BackColor;
     for (int i = fill ? scope.fillFirst : scope.replaceFirst; i <= scope.last; ++i)
       if (fill || s.lblMiro[i].BackColor == old)
         paintBothPlanes(s, i, s.lblSfondo[k], s.lblValore[k].Caption);

@@ -21,12 +21,13 @@ void markTableForRun(SequencerControls& s) {
 
 void rewindCursor(SequencerControls& s) {
   const Number cursor = number(s, s.lblSeq[4]);
-  const Number row = cursor == 1 ? number(s, s.lblSeq[5]) : cursor - 1;
+  // Read only where a cell is marked: the caption itself is carried over as it stands.
+  const auto row = [&] { return cursor == 1 ? number(s, s.lblSeq[5]) : cursor - 1; };
   const std::string& edited = s.lblSeq[3].Caption;
-  if (edited == "B" || edited == "C") s.lblTmrA[row].BackColor = colours::inRange;
-  if (edited == "A" || edited == "C") s.lblTmrB[row].BackColor = colours::inRange;
-  if (edited == "A" || edited == "B") s.lblTmrC[row].BackColor = colours::inRange;
-  s.lblSeq[4].Caption = text(row);
+  if (edited == "B" || edited == "C") s.lblTmrA[row()].BackColor = colours::inRange;
+  if (edited == "A" || edited == "C") s.lblTmrB[row()].BackColor = colours::inRange;
+  if (edited == "A" || edited == "B") s.lblTmrC[row()].BackColor = colours::inRange;
+  s.lblSeq[4].Caption = cursor == 1 ? s.lblSeq[5].Caption : text(cursor - 1);
 }
 
 }  // namespace caleidoscopio

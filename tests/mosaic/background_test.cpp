@@ -107,5 +107,23 @@ TEST_F(Background, ABackgroundThatIsNoNumberEndsTheRunAndNamesIt) {
   EXPECT_TRUE(endsTheRun([&] { click(s.lblSfondo, 5); }, {"lblSfondoMem.Caption", "\"?\""}));
 }
 
+TEST_F(Background, AFillDoesNotAskForTheBackgroundBefore) {
+  for (const char* before : {"?", "8"}) {
+    s.lblSfondoAttivo.Caption = "5";
+    s.lblSfondoMem.Caption = before;
+    click(s.lblSfondo, 5);
+    EXPECT_EQ(count('5', 325, 441), 117) << before;
+    EXPECT_EQ(s.lblSfondoMem.Caption, "5");
+  }
+}
+
+TEST_F(Background, AnUnknownScopePaintsNothingAndDoesNotAskForTheBackgroundBefore) {
+  s.lblSelSfondo[3].Caption = "7";
+  s.lblSfondoMem.Caption = "?";
+  click(s.lblSfondo, 5);
+  EXPECT_EQ(count('5', 0, 441), 0);
+  EXPECT_EQ(s.lblSfondoMem.Caption, "5");
+}
+
 }  // namespace
 }  // namespace caleidoscopio::test

@@ -51,6 +51,19 @@ TEST_F(Rewind, FromRowOneTheCursorGoesToTheLastRowOfTheRange) {
   EXPECT_EQ(unmarked(1), "");
 }
 
+TEST_F(Rewind, FromRowOneTheRangeIsCarriedOverAsItStands) {
+  s.lblSeq[5].Caption = "06";
+  rewind("C", "1");
+  EXPECT_EQ(s.lblSeq[4].Caption, "06");
+  EXPECT_EQ(unmarked(6), "AB");
+}
+
+TEST_F(Rewind, ARangeThatNoMarkAsksForIsNotReadAsANumber) {
+  s.lblSeq[5].Caption = "x";
+  rewind("D", "1");
+  EXPECT_EQ(s.lblSeq[4].Caption, "x");
+}
+
 TEST_F(Rewind, TheRowLabelsKeepTheirMarks) {
   rewind("A", "5");
   EXPECT_EQ(s.lblNOrdine[4].BackColor, colours::selected);
