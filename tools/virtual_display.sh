@@ -10,7 +10,8 @@ start_virtual_display() {
   virtual_display_folder=$(mktemp -d)
   trap stop_virtual_display EXIT
   local number="$virtual_display_folder/number" log="$virtual_display_folder/server"
-  Xvfb -displayfd 3 -screen 0 "$1x24" -nolisten tcp 3>"$number" >"$log" 2>&1 &
+  # Without -noreset it starts anew whenever the last program leaves it, and the next may find it shut.
+  Xvfb -displayfd 3 -screen 0 "$1x24" -nolisten tcp -noreset 3>"$number" >"$log" 2>&1 &
   virtual_display_server=$!
   local wait
   for ((wait = 0; wait < 300; ++wait)); do

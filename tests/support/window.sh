@@ -37,4 +37,6 @@ close_box() {
   while read -r window; do
     xdotool key --window "$window" Return 2>/dev/null || true
   done <<<"$found"
+  # Where the window goes with the press, the key stays down, and the next program would feel it.
+  xdotool keyup Return
 }
