@@ -7,25 +7,13 @@ set -euo pipefail
 program=$1
 console=$2
 share=$3
-here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
-# shellcheck source=tools/virtual_display.sh
-. "$here/../../tools/virtual_display.sh"
 # shellcheck source=tests/support/window.sh
-. "$here/../support/window.sh"
+. "$(dirname "${BASH_SOURCE[0]}")/../support/window.sh"
 
-start_virtual_display 640x480
-work=$virtual_display_folder
-export XDG_DATA_HOME=$work/data XDG_RUNTIME_DIR=$work LC_ALL=C.UTF-8
-root=$XDG_DATA_HOME/caleidoscopio
+start_home 640x480
 mkdir -p "$root"
 cp -r "$share/Miro-Vel-Ta" "$root/"
 printf 'start\n' >"$work/script"
-
-fail() {
-  printf 'FAILED: %s\n' "$*" >&2
-  sed 's/^/  /' "$work/said" >&2
-  exit 1
-}
 
 # Starts the program; leaves "up" in $went, or "ended" with its status in $status.
 come_up() {

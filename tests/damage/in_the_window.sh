@@ -4,22 +4,11 @@
 set -euo pipefail
 program=$1
 share=$2
-here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
-# shellcheck source=tools/virtual_display.sh
-. "$here/../../tools/virtual_display.sh"
 # shellcheck source=tests/support/window.sh
-. "$here/../support/window.sh"
+. "$(dirname "${BASH_SOURCE[0]}")/../support/window.sh"
 
-start_virtual_display 640x480
-work=$virtual_display_folder
-export XDG_DATA_HOME=$work/data XDG_RUNTIME_DIR=$work LC_ALL=C.UTF-8
-dati=$XDG_DATA_HOME/caleidoscopio/Miro-Vel-Ta/Dati
-
-fail() {
-  printf 'FAILED: %s\n' "$*" >&2
-  sed 's/^/  /' "$work/said" >&2
-  exit 1
-}
+start_home 640x480
+dati=$root/Miro-Vel-Ta/Dati
 
 # refused FILE LINE DAMAGE WORDS: starts with that line damaged, closes the box, and finds the words.
 refused() {
@@ -46,11 +35,10 @@ refused() {
   cmp -s "$file" "$work/before" || fail "$1, line $number: the file was harmed"
 }
 
-folder=$XDG_DATA_HOME/caleidoscopio/Miro-Vel-Ta/Dati
 # A number, a flag, a text that the start counts with; and one that a later tick counts with, when
 # the window is there.
-refused Default.txt 6 '"Disegno"' "$folder/Default.txt, line 6, TmrSequencer.Interval: found '\"Disegno\"'; expected a whole number of 32 bits"
-refused Default.txt 178 $'<b>\x1b[31m' "$folder/Default.txt, line 178, FraPannello(2).Visible: found '<b>\\x1B[31m'; expected #TRUE# or #FALSE#"
+refused Default.txt 6 '"Disegno"' "$dati/Default.txt, line 6, TmrSequencer.Interval: found '\"Disegno\"'; expected a whole number of 32 bits"
+refused Default.txt 178 $'<b>\x1b[31m' "$dati/Default.txt, line 178, FraPannello(2).Visible: found '<b>\\x1B[31m'; expected #TRUE# or #FALSE#"
 refused Default.txt 1166 '"#"' 'lblComCol(2).Caption is "#"; expected a whole number of 32 bits'
 refused Default.txt 1802 '"0"' 'division by zero: a random pick among 0; expected 1 or more; lblRndC(0).Caption is "0"'
 echo "refused as they should be"

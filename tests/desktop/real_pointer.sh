@@ -4,16 +4,10 @@
 # holds a speed button, paints a cell, and leaves by Esc. What was saved tells whether all arrived.
 set -euo pipefail
 program=$1 console=$2 share=$3
-here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
-# shellcheck source=tools/virtual_display.sh
-. "$here/../../tools/virtual_display.sh"
 # shellcheck source=tests/support/window.sh
-. "$here/../support/window.sh"
+. "$(dirname "${BASH_SOURCE[0]}")/../support/window.sh"
 
-start_virtual_display 1024x768
-work=$virtual_display_folder
-export XDG_DATA_HOME=$work/data XDG_RUNTIME_DIR=$work
-root=$XDG_DATA_HOME/caleidoscopio
+start_home 1024x768
 "$program" &
 virtual_display_program=$!
 for _ in $(seq 100); do

@@ -6,22 +6,10 @@ set -euo pipefail
 console=$1
 program=$2
 share=$3
-here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
-# shellcheck source=tools/virtual_display.sh
-. "$here/../../tools/virtual_display.sh"
 # shellcheck source=tests/support/window.sh
-. "$here/../support/window.sh"
+. "$(dirname "${BASH_SOURCE[0]}")/../support/window.sh"
 
-start_virtual_display 1024x768
-work=$virtual_display_folder
-export XDG_DATA_HOME=$work/data XDG_RUNTIME_DIR=$work LC_ALL=C.UTF-8
-root=$XDG_DATA_HOME/caleidoscopio
-
-fail() {
-  printf 'FAILED: %s\n' "$*" >&2
-  sed 's/^/  /' "$work/said" >&2
-  exit 1
-}
+start_home 1024x768
 
 files_in() { (cd "$1" && find . -type f -exec sha256sum {} + | sort); }
 

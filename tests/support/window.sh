@@ -1,5 +1,23 @@
 # Sourced by the tests that use the program as a person does, on a display of its own.
-# shellcheck shell=bash disable=SC2154
+# shellcheck shell=bash disable=SC2034,SC2154
+# shellcheck source=tools/virtual_display.sh
+. "$(dirname "${BASH_SOURCE[0]}")/../../tools/virtual_display.sh"
+
+# start_home WIDTHxHEIGHT: a display, and a home that never saw the program; leaves $work, a scratch
+# folder, and $root, where the program will keep the memories.
+start_home() {
+  start_virtual_display "$1"
+  work=$virtual_display_folder
+  root=$work/data/caleidoscopio
+  export XDG_DATA_HOME=$work/data XDG_RUNTIME_DIR=$work LC_ALL=C.UTF-8
+}
+
+# fail WORDS: ends the test, with what the program said on standard error.
+fail() {
+  printf 'FAILED: %s\n' "$*" >&2
+  sed 's/^/  /' "$work/said" >&2
+  exit 1
+}
 
 # middle CONTROL [PARENT]: the middle of a control on a screen of 1024x768, as $console has it with
 # the memories in $share.
